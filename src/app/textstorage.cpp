@@ -1,0 +1,173 @@
+#include "textstorage.h"
+#include "textstorage_p.h"
+
+#include "libvorlin.h"
+
+#include <QtCore/QDateTime>
+#include <QtCore/QDir>
+#include <QtCore/QMutexLocker>
+#include <QtCore/QTextStream>
+
+namespace {
+
+// The split limit is computed in 32 bits and then widened with its sign, so split sizes
+// of 2048 MB and more wrap to a negative or small limit. This width is deliberate.
+qint64 splitLimitBytes(qint32 sizeMB)
+{
+    return qint64(qint32(quint32(sizeMB) << 20));
+}
+
+} // namespace
+
+TextStorageImpl::TextStorageImpl(const QString& folder)
+    : folder(folder)
+{
+}
+
+TextStorageImpl::~TextStorageImpl()
+{
+    delete file;
+}
+
+bool TextStorageImpl::isCurrentFileFull() const
+{
+    return file->size() >= splitLimitBytes(splitSizeMB);
+}
+
+void TextStorageImpl::beginNewFile()
+{
+    delete file;
+    const QString name = folder + QStringLiteral("/gcs_client ")
+        + QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh_mm_ss.log"));
+    file = new QFile(name);
+    // Neither append nor truncate: a second file begun within the same second overwrites
+    // the first one from its start.
+    file->open(QIODevice::ReadWrite);
+}
+
+void TextStorageImpl::writeLines(const QStringList& lines)
+{
+    if (!file || !file->isOpen())
+        return;
+    QTextStream stream(file);
+    stream.setCodec("UTF-8");
+    for (const QString& line : lines) {
+        stream << line << '\n';
+        stream.flush();
+    }
+}
+
+QStringList TextStorageImpl::takePending()
+{
+    QMutexLocker locker(&lock);
+    QStringList taken;
+    taken.swap(pending);
+    return taken;
+}
+
+void TextStorageImpl::saveBatches()
+{
+    QStringList batch = takePending();
+    while (!batch.isEmpty()) {
+        QMutexLocker fileLocker(&fileLock);
+        // Checked once per batch, so a file may grow past the limit by one batch.
+        if (!file) {
+            beginNewFile();
+        } else {
+            file->flush();
+            if (isCurrentFileFull())
+                beginNewFile();
+        }
+        writeLines(batch);
+        fileLocker.unlock();
+        batch = takePending();
+    }
+}
+
+TextStorage::TextStorage(const QString& folder, QObject* parent)
+    : QObject(parent)
+    , d(new TextStorageImpl(folder))
+{
+    QDir().mkpath(folder);
+    d->flushTimer = new QTimer(this);
+    d->flushTimer->setInterval(1000);
+    d->flushTimer->setSingleShot(true);
+    connect(d->flushTimer, &QTimer::timeout, this, &TextStorage::slotDoSaveText);
+}
+
+TextStorage::~TextStorage()
+{
+    d->saveBatches();
+    delete d->flushTimer;
+    d->flushTimer = nullptr;
+}
+
+void TextStorage::appendLine(const QString& line)
+{
+    if (libVorlin::isImmediateQuit())
+        return;
+    QMutexLocker locker(&d->lock);
+    d->pending.append(line);
+    // Only the first line of a burst asks the log thread to write.
+    if (d->pending.size() == 1)
+        QMetaObject::invokeMethod(this, "slotDoSaveText");
+}
+
+void TextStorage::writeLineNow(const QString& line)
+{
+    QMutexLocker locker(&d->lock);
+    QMutexLocker fileLocker(&d->fileLock);
+    d->pending.append(line);
+    if (!d->file)
+        d->beginNewFile();
+    d->writeLines(d->pending);
+    d->pending.clear();
+}
+
+void TextStorage::changePath(const QString& folder)
+{
+    QDir().mkpath(folder);
+    QMetaObject::invokeMethod(this, "slotChangePath", Q_ARG(QString, folder));
+}
+
+void TextStorage::changeSplitSize(int sizeMB)
+{
+    if (sizeMB > 0)
+        QMetaObject::invokeMethod(this, "slotSplitSizeChanged", Q_ARG(int, sizeMB));
+}
+
+QString TextStorage::currentPath() const
+{
+    QMutexLocker locker(&d->lock);
+    return d->folder;
+}
+
+void TextStorage::slotDoSaveText()
+{
+    d->flushTimer->stop();
+    d->saveBatches();
+    d->flushTimer->start();
+}
+
+void TextStorage::slotChangePath(QString folder)
+{
+    {
+        QMutexLocker locker(&d->lock);
+        if (folder == d->folder)
+            return;
+        d->folder = folder;
+    }
+    QMutexLocker fileLocker(&d->fileLock);
+    d->beginNewFile();
+}
+
+void TextStorage::slotSplitSizeChanged(int sizeMB)
+{
+    d->splitSizeMB = sizeMB;
+    QMutexLocker fileLocker(&d->fileLock);
+    if (!d->file)
+        return;
+    d->file->flush();
+    if (d->isCurrentFileFull())
+        d->beginNewFile();
+}
