@@ -1,0 +1,7 @@
+#include "yellowrotatingwaitingwidget.h"
+
+YellowRotatingWaitingWidget::YellowRotatingWaitingWidget(QWidget* parent)
+    : RotatingWaitingWidget(parent)
+{
+    setBackgroundColor(QColor(230,130,16, 255));
+}
