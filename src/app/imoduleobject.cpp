@@ -1,0 +1,3 @@
+#include "imoduleobject.h"
+
+IModuleObject::~IModuleObject() = default;
