@@ -99,10 +99,208 @@ def battery_outline(width=34, height=18):
     return width, height, rows
 
 
+# --- Attitude meter faces -------------------------------------------------------------
+# Every face has the viewBox 0 0 200 200, which the meter stretches over the whole widget
+# before applying the layer's own placement. Faces that the meter squeezes (roll scale,
+# pointers, aircraft) are drawn in widget units (0..200 across the widget) inside a group
+# that undoes that placement, so they come out undistorted.
+
+# A small stroke font (4 x 6 grid) so that numbers are paths: text in SVG costs far
+# more to render than a few strokes, and the faces are drawn on every paint.
+GLYPHS = {
+    "0": [[(0, 0), (4, 0), (4, 6), (0, 6), (0, 0)]],
+    "1": [[(1, 1), (2, 0), (2, 6)], [(1, 6), (3, 6)]],
+    "2": [[(0, 0), (4, 0), (4, 3), (0, 3), (0, 6), (4, 6)]],
+    "3": [[(0, 0), (4, 0), (4, 6), (0, 6)], [(0, 3), (4, 3)]],
+    "4": [[(0, 0), (0, 3), (4, 3)], [(4, 0), (4, 6)]],
+    "5": [[(4, 0), (0, 0), (0, 3), (4, 3), (4, 6), (0, 6)]],
+    "6": [[(4, 0), (0, 0), (0, 6), (4, 6), (4, 3), (0, 3)]],
+    "7": [[(0, 0), (4, 0), (4, 6)]],
+    "8": [[(0, 0), (4, 0), (4, 6), (0, 6), (0, 0)], [(0, 3), (4, 3)]],
+    "9": [[(4, 3), (0, 3), (0, 0), (4, 0), (4, 6), (0, 6)]],
+    "N": [[(0, 6), (0, 0), (4, 6), (4, 0)]],
+    "E": [[(4, 0), (0, 0), (0, 6), (4, 6)], [(0, 3), (3, 3)]],
+    "S": [[(4, 0), (0, 0), (0, 3), (4, 3), (4, 6), (0, 6)]],
+    "W": [[(0, 0), (1, 6), (2, 2), (3, 6), (4, 0)]],
+}
+
+
+def fmt(v):
+    return ("%.2f" % v).rstrip("0").rstrip(".")
+
+
+def text_path(text, cx, cy, height, angle=0.0):
+    """Path data of text centred on (cx, cy), rotated by angle degrees clockwise."""
+    k = height / 6.0
+    advance = 6 * k
+    width = advance * len(text) - 2 * k
+    a = math.radians(angle)
+    ca, sa = math.cos(a), math.sin(a)
+    parts = []
+    for i, ch in enumerate(text):
+        for stroke in GLYPHS[ch]:
+            cmd = "M"
+            for gx, gy in stroke:
+                x = -width / 2 + i * advance + gx * k
+                y = -height / 2 + gy * k
+                parts.append("%s%s %s" % (cmd, fmt(cx + x * ca - y * sa), fmt(cy + x * sa + y * ca)))
+                cmd = "L"
+    return "".join(parts)
+
+
+def polar(cx, cy, r, angle):
+    """The point at angle degrees clockwise from twelve o'clock."""
+    a = math.radians(angle)
+    return cx + r * math.sin(a), cy - r * math.cos(a)
+
+
+def radial_ticks(cx, cy, ticks):
+    out = []
+    for angle, r1, r2 in ticks:
+        x1, y1 = polar(cx, cy, r1, angle)
+        x2, y2 = polar(cx, cy, r2, angle)
+        out.append("M%s %sL%s %s" % (fmt(x1), fmt(y1), fmt(x2), fmt(y2)))
+    return "".join(out)
+
+
+def svg(body):
+    return ('<svg xmlns="http://www.w3.org/2000/svg" width="200" height="200" viewBox="0 0 200 200">\n'
+            + body + "</svg>\n")
+
+
+def undo_placement(sx, sy, px, py):
+    """The group transform that cancels a placement scaling by (sx, sy) about (px, py)."""
+    return 'transform="matrix(%s 0 0 %s %s %s)"' % (
+        fmt(1 / sx), fmt(1 / sy), fmt(px - px / sx), fmt(py - py / sy))
+
+
+# The meter moves the ladder by h * 1.001 * pitch / 270 before scaling it 1.2 times.
+LADDER_UNITS_PER_DEGREE = 200 * 1.001 / 270
+
+
+def pitch_ladder(limit):
+    """Sky, ground and a ladder with a bar every 10 and a short bar every 5 degrees up
+    to +/- limit. Sky and ground reach far past the view box so that the clip window
+    stays covered at full pitch and roll."""
+    bars, labels = [], []
+    for degree in range(-limit, limit + 1, 5):
+        if degree == 0:
+            continue
+        y = 100 - degree * LADDER_UNITS_PER_DEGREE
+        half = 14 if degree % 10 == 0 else 6
+        if degree < 0 and degree % 10 == 0:  # dashed below the horizon
+            bars.append("M%s %sH%sM%s %sH%s" % (fmt(100 - half), fmt(y), fmt(100 - 4),
+                                                 fmt(100 + 4), fmt(y), fmt(100 + half)))
+        else:
+            bars.append("M%s %sH%s" % (fmt(100 - half), fmt(y), fmt(100 + half)))
+        if degree % 10 == 0:
+            number = str(abs(degree))
+            labels.append(text_path(number, 100 - half - 6, y, 3.6))
+            labels.append(text_path(number, 100 + half + 6, y, 3.6))
+    return svg(
+        '<rect x="-200" y="-300" width="600" height="400" fill="#3C8CD8"/>\n'
+        '<rect x="-200" y="100" width="600" height="400" fill="#8A5A2E"/>\n'
+        '<path d="M-200 100H400" stroke="#fff" stroke-width="1"/>\n'
+        '<path d="%s" stroke="#fff" stroke-width="0.7" fill="none"/>\n'
+        '<path d="%s" stroke="#fff" stroke-width="0.55" fill="none" stroke-linecap="round" '
+        'stroke-linejoin="round"/>\n' % ("".join(bars), "".join(labels)))
+
+
+def heading_dial():
+    """A compass rose ring: a tick every 5 degrees, a longer one every 10, and every 30
+    degrees the cardinal letter or the heading in tens of degrees."""
+    ticks = [(a, 100, 91 if a % 10 == 0 else 95) for a in range(0, 360, 5)]
+    names = {0: "N", 90: "E", 180: "S", 270: "W"}
+    labels, north = [], ""
+    for a in range(0, 360, 30):
+        x, y = polar(100, 100, 85, a)
+        path = text_path(names.get(a, str(a // 10)), x, y, 7, a)
+        if a == 0:
+            north = path
+        else:
+            labels.append(path)
+    return svg(
+        '<circle cx="100" cy="100" r="90" fill="none" stroke="#1B2530" stroke-opacity="0.85" '
+        'stroke-width="20"/>\n'
+        '<path d="%s" stroke="#fff" stroke-width="1"/>\n'
+        '<path d="%s" stroke="#fff" stroke-width="1.1" fill="none" stroke-linecap="round" '
+        'stroke-linejoin="round"/>\n'
+        '<path d="%s" stroke="#FF6A3C" stroke-width="1.3" fill="none" stroke-linecap="round" '
+        'stroke-linejoin="round"/>\n' % (radial_ticks(100, 100, ticks), "".join(labels), north))
+
+
+ROLL_RADIUS = 54  # widget units; the roll pointer's tip touches the arc
+
+
+def roll_scale():
+    """An arc over the top with marks at 10, 20, 30, 45 and 60 degrees each side and a
+    triangle at zero, drawn about the widget centre (the meter rotates it there)."""
+    r = ROLL_RADIUS
+    marks = [10, 20, 30, 45, 60]
+    ticks, labels = [], []
+    for m in marks:
+        length = 8 if m in (30, 60) else 5
+        for a in (-m, m):
+            ticks.append((a, r, r + length))
+            x, y = polar(100, 100, r + 13, a)
+            labels.append(text_path(str(m), x, y, 4.2, a))
+    x1, y1 = polar(100, 100, r, -60)
+    x2, y2 = polar(100, 100, r, 60)
+    arc = "M%s %sA%d %d 0 0 1 %s %s" % (fmt(x1), fmt(y1), r, r, fmt(x2), fmt(y2))
+    zero = "M100 %sL%s %sH%sZ" % (fmt(100 - r), fmt(100 - 4), fmt(100 - r - 7), fmt(100 + 4))
+    return svg(
+        '<g %s>\n'
+        '<path d="%s%s" stroke="#fff" stroke-width="1.2" fill="none"/>\n'
+        '<path d="%s" fill="#fff"/>\n'
+        '<path d="%s" stroke="#fff" stroke-width="0.6" fill="none" stroke-linecap="round" '
+        'stroke-linejoin="round"/>\n'
+        '</g>\n' % (undo_placement(0.6572, 0.29, 100, 46), arc, radial_ticks(100, 100, ticks), zero,
+                    "".join(labels)))
+
+
+def top_pointer():
+    """A heading index pointing down onto the rose's outer edge."""
+    return svg('<g %s><path d="M95 0.5H105L100 10.2Z" fill="#FFC21A" stroke="#000" stroke-width="0.5"/></g>\n'
+               % undo_placement(0.055, 0.055, 100, 0))
+
+
+def roll_pointer():
+    """The bank index: a triangle pointing up at the roll arc from inside."""
+    tip = 100 - ROLL_RADIUS
+    return svg('<g %s><path d="M100 %sL104 %sH96Z" fill="#FFC21A" stroke="#000" stroke-width="0.4"/></g>\n'
+               % (undo_placement(0.05, 0.05, 100, 46), fmt(tip), fmt(tip + 7)))
+
+
+def aircraft_symbol():
+    """Fixed wings with down-turned tips either side of a centre dot."""
+    y = 101
+    wing = "M%s %sH%sV%sH%sV%sH%sZ"
+    left = wing % (62, y - 1, 90, y + 2.5, 88, y + 1, 62)
+    right = wing % (138, y - 1, 110, y + 2.5, 112, y + 1, 138)
+    return svg('<g %s><path d="%s%s" fill="#FFC21A" stroke="#000" stroke-width="0.4"/>'
+               '<circle cx="100" cy="%s" r="1.6" fill="#FFC21A" stroke="#000" stroke-width="0.4"/></g>\n'
+               % (undo_placement(0.4, 0.03, 100, 101), left, right, y))
+
+
+def meter_faces():
+    faces = {"svg_heading.svg": heading_dial(), "svg_roll.svg": roll_scale(),
+             "svg_arrow2.svg": top_pointer(), "svg_arrow.svg": roll_pointer(),
+             "svg_plane.svg": aircraft_symbol()}
+    for limit in (30, 40, 50, 60):
+        faces["svg_pitch_%d.svg" % limit] = pitch_ladder(limit)
+    return faces
+
+
 if __name__ == "__main__":
     for relative, art in (("state_icon/icon_loading.png", loading_glyph()),
                           ("new_png/icon_monitor_detail_battery.png", battery_outline())):
         path = os.path.join(ROOT, relative)
         os.makedirs(os.path.dirname(path), exist_ok=True)
         write_png(path, *art)
+        print("wrote", os.path.normpath(path))
+    os.makedirs(os.path.join(ROOT, "meter"), exist_ok=True)
+    for name, text in meter_faces().items():
+        path = os.path.join(ROOT, "meter", name)
+        with open(path, "w") as out:
+            out.write(text)
         print("wrote", os.path.normpath(path))
