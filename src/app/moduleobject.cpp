@@ -85,6 +85,11 @@ void ModuleObject::ParseMetaData(const QJsonObject& metaData)
     d->property.filePath = path;
 }
 
+void ModuleObject::setModuleFilePath(const QString& path)
+{
+    d->property.filePath = path;
+}
+
 void ModuleObject::ParseMetaData(const QJsonObject& metaData, ST_PropertyData& data)
 {
     const QJsonObject own = metaData.value(QLatin1String("MetaData")).toObject();

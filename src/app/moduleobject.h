@@ -37,6 +37,8 @@ public:
 
     // Fills this module's record from the plug-in metadata (keeps the stored file path).
     void ParseMetaData(const QJsonObject& metaData);
+    // The file the module was loaded from; PluginLoader sets it before parsing.
+    void setModuleFilePath(const QString& path);
     // Fills any record from plug-in metadata as QPluginLoader::metaData() returns it.
     static void ParseMetaData(const QJsonObject& metaData, ST_PropertyData& data);
 

@@ -132,8 +132,10 @@ bool PluginLoader::DyLoadModule(QString sAbsolutePath, IModuleObject*& pModuleOu
         return false;
     }
 
-    if (auto* moduleObject = qobject_cast<ModuleObject*>(root))
+    if (auto* moduleObject = qobject_cast<ModuleObject*>(root)) {
+        moduleObject->setModuleFilePath(path);
         moduleObject->ParseMetaData(metaData);
+    }
 
     ST_ModuleData record;
     record.filePath = path;

@@ -104,7 +104,7 @@ bool libUtilStatic::AppendText(QString path, QString text)
 {
     QFile file(path);
     if (!file.open(QIODevice::Append | QIODevice::Text)) {
-        qDebug() << "open file error:" << path;
+        qDebug().noquote() << "open file error:" << path;
         return false;
     }
     file.write(text.toUtf8());
