@@ -291,10 +291,62 @@ def meter_faces():
     return faces
 
 
+# --- Level icons of the telemetry labels --------------------------------------------
+# These belong to the application, not the library: the gallery ships them in its own
+# resources under ":/title_info/".
+
+LEVEL_ON = (18, 196, 122, 255)
+LEVEL_OFF = (255, 255, 255, 70)
+LEVEL_LOW = (230, 70, 50, 255)
+
+
+def battery_level_icon(level, width=20, height=12):
+    """A battery outline with `level` of five cells lit (red when only one is)."""
+    on = LEVEL_LOW if level == 1 else LEVEL_ON
+    rows = []
+    for y in range(height):
+        row = []
+        for x in range(width):
+            if x >= width - 2:
+                px = (235, 235, 235, 255) if height // 3 <= y < height - height // 3 else (0, 0, 0, 0)
+            elif x in (0, width - 3) or y in (0, height - 1):
+                px = (235, 235, 235, 255)
+            elif 2 <= x < width - 4 and 2 <= y < height - 2:
+                cell = (x - 2) // 3
+                px = (0, 0, 0, 0) if (x - 2) % 3 == 2 else (on if cell < level else LEVEL_OFF)
+            else:
+                px = (0, 0, 0, 0)
+            row.append(px)
+        rows.append(row)
+    return width, height, rows
+
+
+def link_level_icon(level, size=16):
+    """Five rising bars, `level` of them lit."""
+    rows = []
+    for y in range(size):
+        row = []
+        for x in range(size):
+            bar, inside = divmod(x, 3)
+            px = (0, 0, 0, 0)
+            if bar < 5 and inside < 2 and y >= size - 3 * (bar + 1) - 1:
+                px = LEVEL_ON if bar < level else LEVEL_OFF
+            row.append(px)
+        rows.append(row)
+    return size, size, rows
+
+
+def level_icons():
+    gallery = os.path.join(ROOT, "..", "examples", "gallery", "resources", "title_info")
+    for level in range(6):
+        yield os.path.join(gallery, "icon_battery_%d%%.png" % (level * 20)), battery_level_icon(level)
+        yield os.path.join(gallery, "icon_communication_%d%%.png" % (level * 20)), link_level_icon(level)
+
+
 if __name__ == "__main__":
-    for relative, art in (("state_icon/icon_loading.png", loading_glyph()),
-                          ("new_png/icon_monitor_detail_battery.png", battery_outline())):
-        path = os.path.join(ROOT, relative)
+    bitmaps = [(os.path.join(ROOT, "state_icon/icon_loading.png"), loading_glyph()),
+               (os.path.join(ROOT, "new_png/icon_monitor_detail_battery.png"), battery_outline())]
+    for path, art in bitmaps + list(level_icons()):
         os.makedirs(os.path.dirname(path), exist_ok=True)
         write_png(path, *art)
         print("wrote", os.path.normpath(path))

@@ -1,0 +1,112 @@
+#include "displaytest.h"
+
+#include "lxvehiclemeterwidget.h"
+
+#include <QtTest/QtTest>
+
+using namespace displaytest;
+
+namespace {
+
+const QColor sky(0x3C, 0x8C, 0xD8);
+const QColor ground(0x8A, 0x5A, 0x2E);
+
+QImage meter(void (*set)(LxVehicleMeterWidget&))
+{
+    LxVehicleMeterWidget widget;
+    widget.resize(300, 300);
+    set(widget);
+    return render(&widget);
+}
+
+// Pixels in the colour of the rose's north letter, in the upper and lower half.
+QPair<int, int> northPixels(const QImage& image)
+{
+    int upper = 0, lower = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (near(image.pixel(x, y), QColor(0xFF, 0x6A, 0x3C), 20))
+                (y < image.height() / 2 ? upper : lower)++;
+    return {upper, lower};
+}
+
+} // namespace
+
+class MeterTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void headingWrapsAndTurnsTheRose()
+    {
+        LxVehicleMeterWidget widget;
+        widget.setHeading(-30);
+        QCOMPARE(widget.heading(), 330.0f);
+        widget.setHeading(720);
+        QCOMPARE(widget.heading(), 360.0f);
+
+        const auto north = northPixels(meter([](LxVehicleMeterWidget& m) { m.setHeading(0); }));
+        QVERIFY(north.first > 10 && north.second == 0);
+        const auto south = northPixels(meter([](LxVehicleMeterWidget& m) { m.setHeading(180); }));
+        QVERIFY(south.first == 0 && south.second > 10);
+        QCOMPARE(meter([](LxVehicleMeterWidget& m) { m.setHeading(-30); }),
+                 meter([](LxVehicleMeterWidget& m) { m.setHeading(330); }));
+    }
+
+    void pitchMovesTheHorizonAndIsClamped()
+    {
+        // Nose up: the horizon drops below the aircraft and sky fills the centre.
+        QVERIFY(near(meter([](LxVehicleMeterWidget& m) { m.setPitch(20); }).pixel(150, 165), sky));
+        QVERIFY(near(meter([](LxVehicleMeterWidget& m) { m.setPitch(-20); }).pixel(150, 135), ground));
+        QCOMPARE(meter([](LxVehicleMeterWidget& m) { m.setPitch(75); }),
+                 meter([](LxVehicleMeterWidget& m) { m.setPitch(60); }));
+        // setAttitude stores as given.
+        QVERIFY(meter([](LxVehicleMeterWidget& m) { m.setPitch(60); m.setAttitude(75, 0); })
+                != meter([](LxVehicleMeterWidget& m) { m.setPitch(60); }));
+    }
+
+    void rollTiltsTheHorizonAndIsClamped()
+    {
+        // Banked right, the horizon's right end rises and its left end sinks.
+        const QImage right = meter([](LxVehicleMeterWidget& m) { m.setRoll(30); });
+        QVERIFY(near(right.pixel(80, 165), sky));
+        QVERIFY(near(right.pixel(220, 135), ground));
+        QCOMPARE(meter([](LxVehicleMeterWidget& m) { m.setRoll(120); }),
+                 meter([](LxVehicleMeterWidget& m) { m.setRoll(90); }));
+        QCOMPARE(meter([](LxVehicleMeterWidget& m) { m.setRoll(-120); }),
+                 meter([](LxVehicleMeterWidget& m) { m.setRoll(-90); }));
+    }
+
+    void ladderFollowsThePitchRange_data()
+    {
+        QTest::addColumn<float>("pitch");
+        QTest::addColumn<QString>("ladder");
+        QTest::newRow("29.9") << 29.9f << QStringLiteral(":/meter/svg_pitch_30.svg");
+        QTest::newRow("30") << 30.0f << QStringLiteral(":/meter/svg_pitch_40.svg");
+        QTest::newRow("45") << 45.0f << QStringLiteral(":/meter/svg_pitch_50.svg");
+        QTest::newRow("-49") << -49.0f << QStringLiteral(":/meter/svg_pitch_50.svg");
+        QTest::newRow("-75") << -75.0f << QStringLiteral(":/meter/svg_pitch_60.svg");
+    }
+
+    void ladderFollowsThePitchRange()
+    {
+        QFETCH(float, pitch);
+        QFETCH(QString, ladder);
+        LxVehicleMeterWidget widget;
+        widget.resize(300, 300);
+        widget.setPitch(10);
+        widget.setPitch(pitch);
+        QCOMPARE(widget.pitchLadder(), ladder);
+        // The ladder in use is the one drawn: same pitch, ladder left at the 30 one.
+        LxVehicleMeterWidget stale;
+        stale.resize(300, 300);
+        stale.setAttitude(widget.pitch(), 0);
+        QCOMPARE(render(&widget) == render(&stale), ladder.endsWith(QLatin1String("30.svg")));
+    }
+};
+
+QObject* createMeterTest()
+{
+    return new MeterTest;
+}
+
+#include "tst_meter.moc"
