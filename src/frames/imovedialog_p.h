@@ -1,0 +1,9 @@
+#pragma once
+
+#include "movableframe_p.h"
+
+class IMoveDialogImpl : public vorlin::MovableFrame
+{
+public:
+    using MovableFrame::MovableFrame;
+};
