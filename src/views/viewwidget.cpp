@@ -1,0 +1,167 @@
+#include "viewwidget.h"
+
+#include "scrollbarstyle_p.h"
+#include "viewheader.h"
+#include "viewitem.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtGui/QPainter>
+#include <QtGui/QResizeEvent>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QStyleOption>
+
+ViewWidget::ViewWidget(QWidget* parent)
+    : QWidget(parent)
+    , m_header(new ViewHeader(this))
+    , m_scrollArea(new QScrollArea(this))
+    , m_content(new QWidget)
+{
+    m_header->setFontStyle(m_headerFontSize, m_headerFontColor, m_headerFontFamily);
+    m_header->setLineColor(m_insideVerticalColor, m_insideHorizontalColor);
+    m_header->setBackgroundColor(m_headerBackgroundColor);
+
+    m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scrollArea->setStyleSheet(QStringLiteral("border: none; background-color: transparent;"));
+    m_scrollArea->setWidget(m_content);
+    vorlin::applyScrollBarStyle(m_scrollArea);
+}
+
+void ViewWidget::setHeaderContents(const QStringList& texts, const QList<int>& weights)
+{
+    m_header->setHeaderContents(texts, weights);
+}
+
+void ViewWidget::setHeaderFont(const QColor& color, int pixelSize, const QString& family)
+{
+    m_headerFontColor = color;
+    m_headerFontSize = qMax(9, pixelSize);
+    m_headerFontFamily = family;
+    m_header->setFontStyle(pixelSize, color, family);
+}
+
+void ViewWidget::setHeaderHeight(int height)
+{
+    m_headerHeight = qMax(24, height);
+    relayout();
+}
+
+void ViewWidget::setHeaderBackgroundColor(const QColor& color)
+{
+    m_headerBackgroundColor = color;
+    m_header->setBackgroundColor(color);
+}
+
+void ViewWidget::setItemFont(const QColor& color, int pixelSize, const QString& family)
+{
+    for (ViewItem* item : qAsConst(m_items))
+        item->setFontStyle(pixelSize, color, family);
+}
+
+void ViewWidget::setItemHeight(int height)
+{
+    m_itemHeight = qMax(24, height);
+    relayout();
+}
+
+void ViewWidget::setItemBackgroundColor(const QColor& color)
+{
+    for (ViewItem* item : qAsConst(m_items))
+        item->setBackgroundColor(color);
+}
+
+void ViewWidget::setInsideLineColor(const QColor& vertical, const QColor& horizontal)
+{
+    m_insideVerticalColor = vertical;
+    m_insideHorizontalColor = horizontal;
+    m_header->setLineColor(vertical, horizontal);
+    for (ViewItem* item : qAsConst(m_items))
+        item->setItemLineColor(vertical, horizontal);
+}
+
+void ViewWidget::setOutsideBorderColor(const QColor& color)
+{
+    m_outsideBorderColor = color;
+}
+
+void ViewWidget::enableSeparateColor(bool enable)
+{
+    m_alternate = enable;
+    applyAlternation();
+}
+
+void ViewWidget::applyAlternation()
+{
+    bool filled = false;
+    for (ViewItem* item : qAsConst(m_items)) {
+        if (item->isItemBackcolorEnabled() != filled)
+            item->setItemBackcolorEnabled(filled);
+        filled = m_alternate && !filled;
+    }
+}
+
+void ViewWidget::appendViewItem(ViewItem* item)
+{
+    insertViewItem(m_items.size(), item);
+}
+
+void ViewWidget::insertViewItem(int index, ViewItem* item)
+{
+    if (!item || m_items.contains(item))
+        return;
+    item->setParent(m_content);
+    item->setItemLineColor(m_insideVerticalColor, m_insideHorizontalColor);
+    m_items.insert(qBound(0, index, m_items.size()), item);
+    item->show();
+    applyAlternation();
+    relayout();
+}
+
+void ViewWidget::removeViewItem(ViewItem* item)
+{
+    if (!m_items.removeOne(item))
+        return;
+    applyAlternation();
+    relayout();
+    item->hide();
+    item->deleteLater();
+}
+
+void ViewWidget::removeAll()
+{
+    for (ViewItem* item : qAsConst(m_items)) {
+        item->hide();
+        item->deleteLater();
+    }
+    m_items.clear();
+    relayout();
+}
+
+void ViewWidget::relayout()
+{
+    QCoreApplication::postEvent(this, new QResizeEvent(size(), size()));
+}
+
+void ViewWidget::paintEvent(QPaintEvent*)
+{
+    QStyleOption option;
+    option.initFrom(this);
+    QPainter painter(this);
+    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+}
+
+void ViewWidget::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    m_header->setGeometry(0, 0, width(), m_headerHeight);
+    m_scrollArea->setGeometry(0, m_headerHeight, width(), height() - m_headerHeight);
+    const int rowWidth = m_scrollArea->width();
+    int y = 0;
+    for (ViewItem* item : qAsConst(m_items)) {
+        item->setGeometry(0, y, rowWidth, m_itemHeight);
+        // Rows overlap by one pixel on purpose: a row's bottom line and the next row's top
+        // share a pixel row.
+        y = item->geometry().bottom();
+        QCoreApplication::postEvent(item, new QResizeEvent(item->size(), item->size()));
+    }
+    m_content->resize(rowWidth, y + 1);
+}
