@@ -21,6 +21,7 @@
 using namespace framestest;
 
 int runDialogTests(int argc, char** argv);
+int runTitleBarTests(int argc, char** argv);
 
 namespace {
 
@@ -466,6 +467,7 @@ int main(int argc, char** argv)
     FramesTest frames;
     int failures = QTest::qExec(&frames, argc, argv);
     failures += runDialogTests(argc, argv);
+    failures += runTitleBarTests(argc, argv);
     return failures;
 }
 
