@@ -180,8 +180,8 @@ LADDER_UNITS_PER_DEGREE = 200 * 1.001 / 270
 
 def pitch_ladder(limit):
     """Sky, ground and a ladder with a bar every 10 and a short bar every 5 degrees up
-    to +/- limit. Sky and ground reach far past the view box so that the clip window
-    stays covered at full pitch and roll."""
+    to +/- limit. Sky and ground reach past the view box just far enough to keep the
+    meter's round window covered at full pitch (+/- 60) and any roll."""
     bars, labels = [], []
     for degree in range(-limit, limit + 1, 5):
         if degree == 0:
@@ -198,12 +198,12 @@ def pitch_ladder(limit):
             labels.append(text_path(number, 100 - half - 6, y, 3.6))
             labels.append(text_path(number, 100 + half + 6, y, 3.6))
     return svg(
-        '<rect x="-200" y="-300" width="600" height="400" fill="#3C8CD8"/>\n'
-        '<rect x="-200" y="100" width="600" height="400" fill="#8A5A2E"/>\n'
-        '<path d="M-200 100H400" stroke="#fff" stroke-width="1"/>\n'
+        '<rect x="-20" y="-40" width="240" height="140" fill="#3C8CD8"/>\n'
+        '<rect x="-20" y="100" width="240" height="140" fill="#8A5A2E"/>\n'
+        '<path d="M-20 100H220" stroke="#fff" stroke-width="1"/>\n'
         '<path d="%s" stroke="#fff" stroke-width="0.7" fill="none"/>\n'
-        '<path d="%s" stroke="#fff" stroke-width="0.55" fill="none" stroke-linecap="round" '
-        'stroke-linejoin="round"/>\n' % ("".join(bars), "".join(labels)))
+        '<path d="%s" stroke="#fff" stroke-width="0.55" fill="none" stroke-linejoin="bevel"/>\n'
+        % ("".join(bars), "".join(labels)))
 
 
 def heading_dial():
@@ -220,13 +220,13 @@ def heading_dial():
         else:
             labels.append(path)
     return svg(
-        '<circle cx="100" cy="100" r="90" fill="none" stroke="#1B2530" stroke-opacity="0.85" '
-        'stroke-width="20"/>\n'
+        # An annulus filled rather than a wide stroke: far cheaper to rasterise.
+        '<path d="M0 100A100 100 0 1 0 200 100A100 100 0 1 0 0 100ZM20 100A80 80 0 1 0 180 100A80 80 0 1 0 20 100Z" '
+        'fill="#1B2530" fill-opacity="0.85" fill-rule="evenodd"/>\n'
         '<path d="%s" stroke="#fff" stroke-width="1"/>\n'
-        '<path d="%s" stroke="#fff" stroke-width="1.1" fill="none" stroke-linecap="round" '
-        'stroke-linejoin="round"/>\n'
-        '<path d="%s" stroke="#FF6A3C" stroke-width="1.3" fill="none" stroke-linecap="round" '
-        'stroke-linejoin="round"/>\n' % (radial_ticks(100, 100, ticks), "".join(labels), north))
+        '<path d="%s" stroke="#fff" stroke-width="1.1" fill="none" stroke-linejoin="bevel"/>\n'
+        '<path d="%s" stroke="#FF6A3C" stroke-width="1.3" fill="none" stroke-linejoin="bevel"/>\n'
+        % (radial_ticks(100, 100, ticks), "".join(labels), north))
 
 
 ROLL_RADIUS = 54  # widget units; the roll pointer's tip touches the arc
@@ -252,8 +252,7 @@ def roll_scale():
         '<g %s>\n'
         '<path d="%s%s" stroke="#fff" stroke-width="1.2" fill="none"/>\n'
         '<path d="%s" fill="#fff"/>\n'
-        '<path d="%s" stroke="#fff" stroke-width="0.6" fill="none" stroke-linecap="round" '
-        'stroke-linejoin="round"/>\n'
+        '<path d="%s" stroke="#fff" stroke-width="0.6" fill="none" stroke-linejoin="bevel"/>\n'
         '</g>\n' % (undo_placement(0.6572, 0.29, 100, 46), arc, radial_ticks(100, 100, ticks), zero,
                     "".join(labels)))
 
