@@ -249,70 +249,161 @@ bool IconTextButton::event(QEvent* event)
     return QWidget::event(event);
 }
 
-void IconTextButton::paintEvent(QPaintEvent*)
+// Everything a paint depends on. Compared as a whole, so that any change (through a
+// setter, a subclass writing the protected members, the font or the palette) repaints.
+struct IconTextButton::PaintInputs
 {
-    QPainter painter(this);
-    painter.setFont(font());
-    painter.setRenderHint(QPainter::Antialiasing, true);
-
-    QPixmap* icon = nullptr;
+    QSize size;
+    qreal devicePixelRatio = 1;
+    QFont font;
+    QString text;
+    AlignText alignment = AlignTextCenter;
+    int radius = 0;
+    int leftMargin = 0;
+    QPixmap icon;
     QColor background;
     QColor textColor;
     QColor borderColor;
     int borderWidth = 0;
-    copyMemberValue(icon, background, textColor, borderColor, borderWidth);
+    bool underline = false;
+    QColor underlineColor;
+    int underlineWidth = 0;
+    bool hint = false;
+    QColor hintColor;
 
+    bool operator==(const PaintInputs& o) const
+    {
+        return size == o.size && devicePixelRatio == o.devicePixelRatio && font == o.font && text == o.text
+            && alignment == o.alignment && radius == o.radius && leftMargin == o.leftMargin
+            && icon.cacheKey() == o.icon.cacheKey() && background == o.background && textColor == o.textColor
+            && borderColor == o.borderColor && borderWidth == o.borderWidth && underline == o.underline
+            && underlineColor == o.underlineColor && underlineWidth == o.underlineWidth && hint == o.hint
+            && hintColor == o.hintColor;
+    }
+};
+
+// Painting antialiased paths and shaping the caption costs far more than blitting a
+// pixmap, and buttons repaint mostly for reasons other than a change of their own look
+// (a parent's update, hover moving between the states), so the finished look of each
+// display state is kept.
+struct IconTextButton::PaintCache
+{
+    struct Entry
+    {
+        PaintInputs inputs;
+        QPixmap pixmap;
+    };
+    Entry entries[vorlin::DisplayStateCount];
+};
+
+IconTextButton::PaintInputs IconTextButton::paintInputs()
+{
+    PaintInputs in;
+    in.size = size();
+    in.devicePixelRatio = devicePixelRatioF();
+    in.font = font();
+    in.text = m_text;
+    in.alignment = m_alignment;
+    in.radius = m_radius;
+    in.leftMargin = m_leftMargin;
+
+    QPixmap* icon = nullptr;
+    copyMemberValue(icon, in.background, in.textColor, in.borderColor, in.borderWidth);
+    if (icon)
+        in.icon = *icon;
     // Unset colours paint nothing (text: the palette's text colour).
-    if (!background.isValid())
-        background = Qt::transparent;
-    if (!textColor.isValid())
-        textColor = palette().color(QPalette::WindowText);
-    if (!borderColor.isValid())
-        borderColor = Qt::transparent;
+    if (!in.background.isValid())
+        in.background = Qt::transparent;
+    if (!in.textColor.isValid())
+        in.textColor = palette().color(QPalette::WindowText);
+    if (!in.borderColor.isValid())
+        in.borderColor = Qt::transparent;
 
-    const QPainterPath backgroundPath = vorlin::roundedRectPath(rect(), m_radius);
-    painter.setPen(background);
-    painter.fillPath(backgroundPath, QBrush(background, Qt::SolidPattern));
+    in.underline = m_underline;
+    in.underlineColor = m_underlineColor;
+    in.underlineWidth = m_underlineWidth;
+    in.hint = m_hintEnabled;
+    in.hintColor = m_hintColor;
+    return in;
+}
 
-    const bool hasIcon = icon && !icon->isNull() && icon->width() > 0;
-    const int pw = hasIcon ? icon->width() : 0;
-    const int ph = hasIcon ? icon->height() : 0;
-    const QFontMetrics metrics(font());
-    const int th = metrics.height();
-    const int tw = metrics.horizontalAdvance(m_text);
-    const int inset = m_leftMargin + m_radius;
+void IconTextButton::paintEvent(QPaintEvent*)
+{
+    PaintInputs in = paintInputs();
+    if (in.size.isEmpty())
+        return;
+    QPainter painter(this);
+    if (!vorlin::isDisplayState(m_state)) {
+        paintButton(painter, in);
+        return;
+    }
+    if (!m_paintCache)
+        m_paintCache = std::make_unique<PaintCache>();
+    PaintCache::Entry& entry = m_paintCache->entries[m_state];
+    if (entry.pixmap.isNull() || !(entry.inputs == in)) {
+        const QSize pixels = in.size * in.devicePixelRatio;
+        if (entry.pixmap.size() != pixels)
+            entry.pixmap = QPixmap(pixels);
+        entry.pixmap.setDevicePixelRatio(in.devicePixelRatio);
+        entry.pixmap.fill(Qt::transparent);
+        QPainter cachePainter(&entry.pixmap);
+        paintButton(cachePainter, in);
+        entry.inputs = std::move(in);
+    }
+    painter.drawPixmap(0, 0, entry.pixmap);
+}
+
+void IconTextButton::paintButton(QPainter& painter, const PaintInputs& in) const
+{
+    painter.setFont(in.font);
+    painter.setRenderHint(QPainter::Antialiasing, true);
+
+    const QRect rect(QPoint(0, 0), in.size);
+    const int width = rect.width();
+    const int height = rect.height();
+    const QPainterPath backgroundPath = vorlin::roundedRectPath(rect, in.radius);
+    painter.setPen(in.background);
+    painter.fillPath(backgroundPath, QBrush(in.background, Qt::SolidPattern));
+
+    const bool hasIcon = !in.icon.isNull() && in.icon.width() > 0;
+    const int pw = hasIcon ? in.icon.width() : 0;
+    const int ph = hasIcon ? in.icon.height() : 0;
+    const int inset = in.leftMargin + in.radius;
 
     if (!hasIcon) {
-        QRect textRect = rect();
+        QRect textRect = rect;
         textRect.setLeft(inset);
-        textRect.setWidth(width() - inset);
-        painter.setPen(textColor);
-        const int flags = m_alignment == AlignTextLeft ? int(Qt::AlignLeft | Qt::AlignVCenter) : int(Qt::AlignCenter);
-        painter.drawText(textRect, flags, m_text);
-    } else if (m_text.isEmpty()) {
-        painter.drawPixmap((rect().width() - pw) / 2, (height() - ph) / 2, *icon);
+        textRect.setWidth(width - inset);
+        painter.setPen(in.textColor);
+        const int flags = in.alignment == AlignTextLeft ? int(Qt::AlignLeft | Qt::AlignVCenter) : int(Qt::AlignCenter);
+        painter.drawText(textRect, flags, in.text);
+    } else if (in.text.isEmpty()) {
+        painter.drawPixmap((width - pw) / 2, (height - ph) / 2, in.icon);
     } else {
-        switch (m_alignment) {
+        switch (in.alignment) {
         case AlignTextCenter:
             // Icon and caption are both centred and overlap.
-            painter.drawPixmap((rect().width() - pw) / 2, (height() - ph) / 2, *icon);
-            painter.setPen(textColor);
-            painter.drawText(rect(), Qt::AlignCenter, m_text);
+            painter.drawPixmap((width - pw) / 2, (height - ph) / 2, in.icon);
+            painter.setPen(in.textColor);
+            painter.drawText(rect, Qt::AlignCenter, in.text);
             break;
         case AlignTextRight: {
-            painter.drawPixmap(inset, (height() - ph) / 2, *icon);
-            QRect textRect = rect();
+            painter.drawPixmap(inset, (height - ph) / 2, in.icon);
+            QRect textRect = rect;
             textRect.setLeft(inset + pw + 5);
-            textRect.setWidth(width() - 5 - inset - pw);
-            painter.setPen(textColor);
-            painter.drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter, m_text);
+            textRect.setWidth(width - 5 - inset - pw);
+            painter.setPen(in.textColor);
+            painter.drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter, in.text);
             break;
         }
         case AlignTextBottom: {
-            const int iconY = (height() - 6 - th - ph) / 2;
-            painter.drawPixmap((width() - pw) / 2, iconY, *icon);
-            painter.setPen(textColor);
-            painter.drawText(QRect((width() - tw) / 2, iconY + ph + 6, tw, th), Qt::AlignCenter, m_text);
+            const QFontMetrics metrics(in.font);
+            const int th = metrics.height();
+            const int tw = metrics.horizontalAdvance(in.text);
+            const int iconY = (height - 6 - th - ph) / 2;
+            painter.drawPixmap((width - pw) / 2, iconY, in.icon);
+            painter.setPen(in.textColor);
+            painter.drawText(QRect((width - tw) / 2, iconY + ph + 6, tw, th), Qt::AlignCenter, in.text);
             break;
         }
         case AlignTextLeft:
@@ -322,30 +413,30 @@ void IconTextButton::paintEvent(QPaintEvent*)
         }
     }
 
-    if (m_underline) {
+    if (in.underline) {
         painter.setRenderHint(QPainter::Antialiasing, false);
         QPen pen = painter.pen();
-        pen.setColor(m_underlineColor);
-        pen.setWidth(m_underlineWidth);
+        pen.setColor(in.underlineColor);
+        pen.setWidth(in.underlineWidth);
         painter.setPen(pen);
-        painter.drawLine(rect().left(), rect().bottom(), rect().right(), rect().bottom());
+        painter.drawLine(rect.left(), rect.bottom(), rect.right(), rect.bottom());
     }
 
-    if (m_hintEnabled) {
+    if (in.hint) {
         // The dot sits in the top-right corner of the icon's box. Its brush stays
         // set on purpose: see the border below.
         painter.setRenderHint(QPainter::Antialiasing, true);
-        painter.setPen(m_hintColor);
-        painter.setBrush(QBrush(m_hintColor, Qt::SolidPattern));
-        painter.drawEllipse(width() / 2 + pw / 2 - 6, height() / 2 - ph / 2 + 6, 6, 6);
+        painter.setPen(in.hintColor);
+        painter.setBrush(QBrush(in.hintColor, Qt::SolidPattern));
+        painter.drawEllipse(width / 2 + pw / 2 - 6, height / 2 - ph / 2 + 6, 6, 6);
     }
 
-    if (borderWidth > 0) {
+    if (in.borderWidth > 0) {
         // The brush is not reset: with the hint dot on, the border path is filled
         // with the hint colour and covers the content. Kept as the defined look.
         QPen pen = painter.pen();
-        pen.setColor(borderColor);
-        pen.setWidth(borderWidth);
+        pen.setColor(in.borderColor);
+        pen.setWidth(in.borderWidth);
         painter.setPen(pen);
         painter.drawPath(backgroundPath);
     }

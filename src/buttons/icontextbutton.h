@@ -6,6 +6,8 @@
 #include <QtGui/QPixmap>
 #include <QtWidgets/QWidget>
 
+#include <memory>
+
 // The library's custom-painted push button: a rounded background, an optional
 // icon, a caption, an optional underline, hint dot and border, each chosen by the
 // display state (normal, hover, press, disable). Most clickable widgets of the
@@ -105,5 +107,13 @@ protected:
     bool m_filterMouseEvents = false;
 
 private:
+    struct PaintInputs;
+    struct PaintCache;
+
     void setState(int state);
+    PaintInputs paintInputs();
+    void paintButton(QPainter& painter, const PaintInputs& in) const;
+
+    // The last paint, replayed while none of its inputs changed.
+    std::unique_ptr<PaintCache> m_paintCache;
 };
