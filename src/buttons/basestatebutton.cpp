@@ -8,6 +8,7 @@ BaseStateButton::BaseStateButton(QWidget* parent)
     setAttribute(Qt::WA_StyledBackground);
     setObjectName(QStringLiteral("BaseStateButton"));
     setFocusPolicy(Qt::NoFocus);
+    // rgb() with four values: Qt reads it as transparent black (and says so in a warning).
     setStyleSheet(QStringLiteral("BaseStateButton{ background-color: rgb(0,0,0,0); }"));
 }
 

@@ -138,7 +138,7 @@ QPainterPath DisplayButton::tipPath(int x, int y, int w, int h, int radius) cons
     QPainterPath path;
     const int diameter = 2 * radius;
     if (diameter > qMin(w, h)) {
-        qDebug() << "DisplayButton object:" << objectName()
+        qDebug().noquote() << "DisplayButton object:" << objectName()
                  << QString::asprintf("2 * radius(%d) > qMin(%d, %d)", radius, w, h);
         return path;
     }

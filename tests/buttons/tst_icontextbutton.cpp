@@ -61,6 +61,7 @@ private Q_SLOTS:
     void leftMarginAndFontGuards();
     void underlineHintDotAndBorder();
     void eventFiltering();
+    void repaintsEveryChangeOfLook();
     void displayButtonClicksOnlyInArea();
 };
 
@@ -320,6 +321,35 @@ void IconTextButtonTest::displayButtonClicksOnlyInArea()
     QTest::mousePress(&button, Qt::LeftButton, {}, QPoint(50, 60));
     QVERIFY(near(pixel(&button, 10, 50), QColor(201, 107, 0)));
     QTest::mouseRelease(&button, Qt::LeftButton, {}, QPoint(50, 60));
+}
+
+void IconTextButtonTest::repaintsEveryChangeOfLook()
+{
+    // A subclass may change the protected members directly.
+    struct Rounded : IconTextButton
+    {
+        void setRadiusDirectly(int r) { m_radius = r; update(); }
+    };
+    QWidget parent;
+    parent.resize(200, 100);
+    auto* button = new Rounded;
+    button->setParent(&parent);
+    button->resize(120, 40);
+    button->setBackgroundColor(Normal, Hover, Press, Disable);
+    button->setText(QStringLiteral("WWWW"));
+    QVERIFY(near(pixel(button, 0, 0), Normal));
+    button->setRadiusDirectly(12);
+    QVERIFY(!near(pixel(button, 0, 0), Normal));
+
+    // Unset text colours follow the palette.
+    QPalette palette = button->palette();
+    palette.setColor(QPalette::WindowText, Qt::yellow);
+    button->setPalette(palette);
+    QVERIFY(!areaOf(render(button), Qt::yellow).isNull());
+    palette.setColor(QPalette::WindowText, Qt::green);
+    button->setPalette(palette);
+    QVERIFY(areaOf(render(button), Qt::yellow).isNull());
+    QVERIFY(!areaOf(render(button), Qt::green).isNull());
 }
 
 QObject* createIconTextButtonTest()
