@@ -1,39 +1,97 @@
 #include "gallerywindow.h"
 
 #include "gallerypages.h"
+#include "icontextbutton.h"
+#include "ititlebarwidget.h"
+#include "iverticalbarwidget.h"
 #include "mainapplication.h"
+#include "simulatedvehicle.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
 #include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QListWidget>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QStackedWidget>
+#include <QtWidgets/QStatusBar>
+#include <QtWidgets/QToolButton>
+
+namespace {
+
+const QColor kChrome(26, 33, 40);
+
+// The title bar: logo, title, clock and the system buttons with the library's icons.
+class GalleryTitleBar : public ITitleBarWidget
+{
+public:
+    GalleryTitleBar()
+    {
+        initSysBtnLayout();
+        setFixedHeight(40);
+        setBackgroundColor(true, kChrome);
+        setSysBtnIcon(QStringLiteral(":/title_sysbtn/title_close_n.png"),
+                      QStringLiteral(":/title_sysbtn/title_minimize_n.png"),
+                      QStringLiteral(":/title_sysbtn/title_maximized_n.png"),
+                      QStringLiteral(":/title_sysbtn/title_maximized2normal_n.png"));
+        setLogoSize(28, 28);
+        setTitleLogo(QString(), QStringLiteral(":/gallery/logo.svg"));
+        setTitleTextPalette(16, QStringLiteral("#E6E8EB"));
+        findChild<QLabel*>(QStringLiteral("labelTime"))->setStyleSheet(QStringLiteral("color: #AEB6C1;"));
+        for (QToolButton* button : findChildren<QToolButton*>())
+            button->setStyleSheet(sysButtonHoverStyle());
+    }
+};
+
+// Icons of the navigation buttons, used in turn.
+const char* const kNavigationIcons[] = {"home", "operation", "record", "setting", "system"};
+
+} // namespace
 
 GalleryWindow::GalleryWindow(QWidget* parent)
     : IMainWindow(parent)
-    , m_pageList(new QListWidget)
+    , m_titleBar(new GalleryTitleBar)
+    , m_navigation(new IVerticalBarWidget)
     , m_pages(new QStackedWidget)
 {
+    initWindowStyle();
+    setMenuWidget(m_titleBar);
+    SetTitleWidget(m_titleBar);
+
     auto* central = new QWidget;
     auto* layout = new QHBoxLayout(central);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(1, 0, 1, 0);
     layout->setSpacing(0);
-    m_pageList->setFixedWidth(160);
-    layout->addWidget(m_pageList);
+    m_navigation->setFixedWidth(96);
+    m_navigation->setBackgroundColor(true, kChrome);
+    layout->addWidget(m_navigation);
     layout->addWidget(m_pages, 1);
     setCentralWidget(central);
 
     auto* app = qobject_cast<MainApplication*>(QCoreApplication::instance());
     for (const GalleryPage& page : GalleryPages::sorted()) {
+        const int index = m_pages->count();
         QWidget* widget = page.create();
         m_pages->addWidget(widget);
         m_titles.append(page.title);
-        m_pageList->addItem(QString());
+        IconTextButton* button = m_navigation->appendIconButton(IVerticalBarWidget::LayoutTOP, QString());
+        const QString icon = QStringLiteral(":/navi_bar/icon_%1").arg(QLatin1String(kNavigationIcons[index % 5]));
+        button->setIcon(icon + QStringLiteral(".png"), icon + QStringLiteral("_hover.png"),
+                        icon + QStringLiteral("_hover.png"), icon + QStringLiteral(".png"));
+        button->setFixedHeight(72);
+        connect(button, &IconTextButton::sigClicked, this, [this, index] { showPage(index); });
+        m_pageButtons.append(button);
         if (app)
             app->insertPageWindow(QLatin1String(page.title), widget);
     }
-    connect(m_pageList, &QListWidget::currentRowChanged, m_pages, &QStackedWidget::setCurrentIndex);
-    m_pageList->setCurrentRow(0);
+    m_navigation->addStretch(IVerticalBarWidget::LayoutBOTTOM);
+
+    setStatusBar(new QStatusBar);
+    initStatusBarWidgetUI(true);
+    SimulatedVehicle* vehicle = SimulatedVehicle::instance();
+    connect(vehicle, &SimulatedVehicle::changed, this, [this, vehicle] { setDeviceLinked(vehicle->isLinked()); });
+    setDeviceLinked(vehicle->isLinked());
+    setBorderColor(QColor(60, 66, 76));
+
+    showPage(0);
     retranslate();
     resize(1280, 800);
 }
@@ -55,7 +113,10 @@ QString GalleryWindow::pageTitle(int index) const
 
 void GalleryWindow::showPage(int index)
 {
-    m_pageList->setCurrentRow(index);
+    m_pages->setCurrentIndex(index);
+    // The bar does not group its buttons: keep exactly the current page's pressed.
+    for (int i = 0; i < m_pageButtons.size(); ++i)
+        m_pageButtons[i]->setChecked(i == index);
 }
 
 void GalleryWindow::changeEvent(QEvent* event)
@@ -65,9 +126,16 @@ void GalleryWindow::changeEvent(QEvent* event)
     IMainWindow::changeEvent(event);
 }
 
+QString GalleryWindow::statusBarCredit() const
+{
+    return tr("vorlin widgets for ground control ");
+}
+
 void GalleryWindow::retranslate()
 {
-    setWindowTitle(QCoreApplication::translate("Gallery", "vorlin gallery"));
-    for (int i = 0; i < m_titles.size(); ++i)
-        m_pageList->item(i)->setText(pageTitle(i));
+    const QString title = QCoreApplication::translate("Gallery", "vorlin gallery");
+    setWindowTitle(title);
+    m_titleBar->setTitleText(title);
+    for (int i = 0; i < m_pageButtons.size(); ++i)
+        m_pageButtons[i]->setText(pageTitle(i));
 }

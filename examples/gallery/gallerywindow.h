@@ -2,10 +2,13 @@
 
 #include "imainwindow.h"
 
-class QListWidget;
+class IconTextButton;
+class ITitleBarWidget;
+class IVerticalBarWidget;
 class QStackedWidget;
 
-// The gallery's main window: the page list beside the pages.
+// The gallery's main window: a frameless window with its title bar, the navigation bar
+// beside the pages and a status bar whose link indicator follows the simulated vehicle.
 class GalleryWindow : public IMainWindow
 {
     Q_OBJECT
@@ -19,11 +22,14 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    QString statusBarCredit() const override;
 
 private:
     void retranslate();
 
-    QListWidget* m_pageList;
+    ITitleBarWidget* m_titleBar;
+    IVerticalBarWidget* m_navigation;
     QStackedWidget* m_pages;
+    QList<IconTextButton*> m_pageButtons;
     QList<const char*> m_titles;
 };
