@@ -51,11 +51,18 @@ def write_png(path, pixels):
 
 
 def write_ico(path, pixels):
-    """One 32-bit BMP image: bottom-up BGRA rows followed by an all-zero AND mask."""
+    """One 32-bit BMP image: bottom-up BGRA rows followed by the AND mask, which marks the
+    transparent pixels for readers that ignore the alpha bytes."""
     height, width = len(pixels), len(pixels[0])
     xor = b"".join(bytes((b, g, r, a)) for row in reversed(pixels) for (r, g, b, a) in row)
     mask_stride = ((width + 31) // 32) * 4
-    mask = bytes(mask_stride * height)
+    mask = bytearray()
+    for row in reversed(pixels):
+        bits = bytearray(mask_stride)
+        for x, (_, _, _, a) in enumerate(row):
+            if a < 128:
+                bits[x // 8] |= 0x80 >> (x % 8)
+        mask += bits
     header = struct.pack("<IiiHHIIiiII", 40, width, height * 2, 1, 32, 0, len(xor) + len(mask), 0, 0, 0, 0)
     image = header + xor + mask
     with open(path, "wb") as f:

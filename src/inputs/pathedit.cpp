@@ -24,6 +24,7 @@ void PathEdit::init()
     m_openButton->setStyleSheet(QStringLiteral("QToolButton{ background-color:transparent; }"));
     m_openButton->setToolTip(tr("open file path"));
     m_openButton->setIcon(QIcon(QStringLiteral(":/state_icon/open_file.ico")));
+    m_openButton->setAutoRaise(true); // no button panel around the icon until hovered
     m_openButton->setCursor(Qt::ArrowCursor);
     connect(m_openButton, &QToolButton::clicked, this, &PathEdit::selectFile);
 }

@@ -14,6 +14,10 @@ MsgViewItem::MsgViewItem(const MsgInfoT& info, QWidget* parent)
     , m_textLabel(new QLabel(info.text, this))
     , m_timeLabel(new QLabel(info.time.toString(QStringLiteral("MM-dd hh:mm:ss")), this))
 {
+    // The row measures its text with its own font: keep it at the labels' 12 pixels.
+    QFont rowFont = font();
+    rowFont.setPixelSize(lineHeight);
+    setFont(rowFont);
     m_textLabel->setWordWrap(true);
     m_textLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_textLabel->setStyleSheet(QStringLiteral("font-size:12px;color:#444444;"));
