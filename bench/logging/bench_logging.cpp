@@ -1,0 +1,125 @@
+// Log throughput and producer latency: our message handler feeding the log thread, against
+// spdlog's asynchronous logger writing the same lines to a file, in the same run.
+//   bench_logging [lines-per-thread]
+#include "../stats.h"
+#include "mainapplication.h"
+
+#include <spdlog/async.h>
+#include <spdlog/sinks/basic_file_sink.h>
+#include <spdlog/spdlog.h>
+
+#include <QtCore/QDebug>
+#include <QtCore/QDir>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QThread>
+
+#include <chrono>
+#include <cstdio>
+#include <thread>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+struct Result
+{
+    double linesPerSecond;
+    double p50us;
+    double p99us;
+};
+
+// Runs `log(thread, line)` from `threads` producers, timing every call; `drain` returns once
+// every line is in the file.
+template<typename Log, typename Drain>
+Result run(int threads, int linesPerThread, Log log, Drain drain)
+{
+    std::vector<std::vector<double>> latencies(static_cast<size_t>(threads));
+    const auto start = Clock::now();
+    std::vector<std::thread> producers;
+    for (int t = 0; t < threads; ++t) {
+        producers.emplace_back([&, t] {
+            std::vector<double>& mine = latencies[size_t(t)];
+            mine.reserve(size_t(linesPerThread));
+            for (int i = 0; i < linesPerThread; ++i) {
+                const auto before = Clock::now();
+                log(t, i);
+                mine.push_back(std::chrono::duration<double, std::micro>(Clock::now() - before).count());
+            }
+        });
+    }
+    for (std::thread& producer : producers)
+        producer.join();
+    drain();
+    const double seconds = std::chrono::duration<double>(Clock::now() - start).count();
+    std::vector<double> all;
+    for (const auto& part : latencies)
+        all.insert(all.end(), part.begin(), part.end());
+    return {threads * linesPerThread / seconds, percentile(all, 0.50), percentile(all, 0.99)};
+}
+
+qint64 countLines(const QString& folder)
+{
+    qint64 lines = 0;
+    const QDir dir(folder);
+    for (const QString& name : dir.entryList(QDir::Files)) {
+        QFile file(dir.filePath(name));
+        if (file.open(QIODevice::ReadOnly))
+            lines += file.readAll().count('\n');
+    }
+    return lines;
+}
+
+void quietHandler(QtMsgType, const QMessageLogContext&, const QString&)
+{
+}
+
+void print(const char* name, int threads, const Result& r, const Result& peer)
+{
+    std::printf("%-34s %2d  %10.0f  %8.2f  %8.2f   %5.2fx   %5.2fx\n", name, threads, r.linesPerSecond, r.p50us, r.p99us,
+                r.linesPerSecond / peer.linesPerSecond, r.p99us / peer.p99us);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const int linesPerThread = argc > 1 ? std::atoi(argv[1]) : 50000;
+    qInstallMessageHandler(quietHandler); // chained after ours: keeps the terminal out of the measurement
+    MainApplication app(argc, argv);
+    MainApplication::InitMainApplicationGlobal();
+    QTemporaryDir dir;
+
+    std::printf("%d lines per producer; throughput until every line is in the file\n", linesPerThread);
+    std::printf("%-34s %2s  %10s  %8s  %8s   %6s   %6s\n", "logger", "th", "lines/s", "p50 us", "p99 us", "vs-rate", "vs-p99");
+    int round = 0;
+    for (int threads : {1, 4, 8}) {
+        const QString ours = dir.filePath(QStringLiteral("ours%1").arg(round));
+        app.ChangeLoggerPath(ours);
+        while (app.CurrentLoggerPath() != ours)
+            QThread::msleep(1);
+        const qint64 before = countLines(ours);
+        const qint64 expected = before + qint64(threads) * linesPerThread;
+        const Result vorlin = run(threads, linesPerThread,
+            [](int t, int i) { qInfo("producer %d line %d: link quality 87 %%, battery 23.9 V", t, i); },
+            [&] { while (countLines(ours) < expected) QThread::msleep(2); });
+
+        Result peers[2];
+        for (int flushEveryLine = 1; flushEveryLine >= 0; --flushEveryLine) {
+            spdlog::init_thread_pool(8192, 1);
+            const std::string file = dir.filePath(QStringLiteral("spdlog%1-%2.log").arg(round).arg(flushEveryLine)).toStdString();
+            auto logger = spdlog::basic_logger_mt<spdlog::async_factory>("bench", file);
+            logger->set_pattern("%Y-%m-%d %H:%M:%S.%e [%l] at %s:%# - %v");
+            if (flushEveryLine)
+                logger->flush_on(spdlog::level::trace);
+            peers[flushEveryLine ? 0 : 1] = run(threads, linesPerThread,
+                [&](int t, int i) { SPDLOG_LOGGER_INFO(logger, "producer {} line {}: link quality 87 %, battery 23.9 V", t, i); },
+                [&] { spdlog::shutdown(); });
+        }
+        print("vorlin (flushes every line)", threads, vorlin, peers[0]);
+        print("spdlog async, flush every line", threads, peers[0], peers[0]);
+        print("spdlog async, defaults", threads, peers[1], peers[0]);
+        ++round;
+    }
+    MainApplication::FreeMainApplicationGlobal();
+    return 0;
+}

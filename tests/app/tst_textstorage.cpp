@@ -1,0 +1,143 @@
+#include "libvorlin.h"
+#include "textstorage.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QThread>
+#include <QtTest/QtTest>
+
+namespace {
+
+QStringList logFiles(const QString& folder)
+{
+    return QDir(folder).entryList({QStringLiteral("gcs_client *.log")}, QDir::Files, QDir::Name);
+}
+
+QStringList readLines(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
+    if (!lines.isEmpty() && lines.last().isEmpty())
+        lines.removeLast();
+    return lines;
+}
+
+QStringList readAllLines(const QString& folder)
+{
+    QStringList lines;
+    for (const QString& name : logFiles(folder))
+        lines += readLines(QDir(folder).filePath(name));
+    return lines;
+}
+
+} // namespace
+
+// The storage lives in its own thread, as in an application.
+class TextStorageTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_thread = new QThread;
+        m_thread->start();
+        m_storage = new TextStorage(m_dir.path() + QStringLiteral("/logs/nested"));
+        m_storage->moveToThread(m_thread);
+    }
+
+    void cleanup()
+    {
+        QMetaObject::invokeMethod(m_storage, "deleteLater");
+        m_thread->quit();
+        m_thread->wait();
+        delete m_thread;
+        libVorlin::SetImmediateQuit(false);
+        QDir(m_dir.path()).removeRecursively();
+        QDir().mkpath(m_dir.path());
+    }
+
+    void writesLinesInOrderIntoANamedFile()
+    {
+        const QString folder = m_dir.path() + QStringLiteral("/logs/nested");
+        QVERIFY(QDir(folder).exists()); // made by the constructor, parents included
+        QVERIFY(logFiles(folder).isEmpty()); // no file before the first line
+        for (int i = 0; i < 50; ++i)
+            m_storage->appendLine(QStringLiteral("line %1").arg(i));
+        QTRY_COMPARE(readAllLines(folder).size(), 50);
+        const QStringList files = logFiles(folder);
+        QCOMPARE(files.size(), 1);
+        QVERIFY(QRegularExpression(QStringLiteral("^gcs_client \\d{4}-\\d\\d-\\d\\d \\d\\d_\\d\\d_\\d\\d\\.log$"))
+                    .match(files.first()).hasMatch());
+        QCOMPARE(readAllLines(folder).first(), QStringLiteral("line 0"));
+        QCOMPARE(readAllLines(folder).last(), QStringLiteral("line 49"));
+    }
+
+    void writeLineNowIsOnDiskOnReturn()
+    {
+        const QString folder = m_storage->currentPath();
+        m_storage->writeLineNow(QStringLiteral("fatal line"));
+        QCOMPARE(readAllLines(folder), QStringList{QStringLiteral("fatal line")});
+    }
+
+    void splitsWhenTheFileReachesTheSplitSize()
+    {
+        const QString folder = m_storage->currentPath();
+        m_storage->changeSplitSize(1);
+        m_storage->changeSplitSize(0);  // ignored
+        m_storage->changeSplitSize(-5); // ignored
+        const QString filler(1023, QLatin1Char('x'));
+        for (int i = 0; i < 1100; ++i) // a little over 1 MB in one burst
+            m_storage->appendLine(filler);
+        QTRY_COMPARE(readAllLines(folder).size(), 1100);
+        QCOMPARE(logFiles(folder).size(), 1);
+        // A file is named by the second it was begun in; wait for the next second.
+        QTest::qWait(1100);
+        m_storage->appendLine(QStringLiteral("after the split"));
+        QTRY_COMPARE(logFiles(folder).size(), 2);
+        const QStringList files = logFiles(folder);
+        QVERIFY(QFileInfo(QDir(folder).filePath(files.first())).size() >= 1024 * 1024);
+        QCOMPARE(readLines(QDir(folder).filePath(files.last())), QStringList{QStringLiteral("after the split")});
+    }
+
+    void changesFolderOnlyWhenItDiffers()
+    {
+        const QString first = m_storage->currentPath();
+        m_storage->appendLine(QStringLiteral("in the first folder"));
+        QTRY_COMPARE(logFiles(first).size(), 1);
+
+        QTest::qWait(1100);
+        m_storage->changePath(first); // the folder in use: no new file
+        m_storage->appendLine(QStringLiteral("still the first folder"));
+        QTRY_COMPARE(readAllLines(first).size(), 2);
+        QCOMPARE(logFiles(first).size(), 1);
+
+        const QString second = m_dir.path() + QStringLiteral("/other/deeper");
+        m_storage->changePath(second);
+        QVERIFY(QDir(second).exists()); // created at once, by the caller
+        QTRY_COMPARE(m_storage->currentPath(), second);
+        QCOMPARE(logFiles(second).size(), 1); // begun at once
+        m_storage->appendLine(QStringLiteral("in the second folder"));
+        QTRY_COMPARE(readAllLines(second), QStringList{QStringLiteral("in the second folder")});
+    }
+
+    void dropsQueuedLinesOnceTheLibraryQuits()
+    {
+        const QString folder = m_storage->currentPath();
+        libVorlin::SetImmediateQuit(true);
+        m_storage->appendLine(QStringLiteral("dropped"));
+        m_storage->writeLineNow(QStringLiteral("kept")); // the synchronous write ignores the flag
+        QTest::qWait(200);
+        QCOMPARE(readAllLines(folder), QStringList{QStringLiteral("kept")});
+    }
+
+private:
+    QTemporaryDir m_dir;
+    QThread* m_thread = nullptr;
+    TextStorage* m_storage = nullptr;
+};
+
+QTEST_GUILESS_MAIN(TextStorageTest)
+#include "tst_textstorage.moc"

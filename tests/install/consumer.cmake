@@ -1,0 +1,7 @@
+cmake_minimum_required(VERSION 3.16)
+project(VorlinConsumer LANGUAGES CXX)
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_AUTOMOC ON)
+find_package(Vorlin 1.0 CONFIG REQUIRED)
+add_executable(consumer main.cpp)
+target_link_libraries(consumer PRIVATE Vorlin::Vorlin)
