@@ -229,13 +229,17 @@ private Q_SLOTS:
         gauge.setValue(101);
         gauge.setValue(-1);
         QCOMPARE(gauge.value(), 50);
-        // Outline 34 x 18 at (1, 1): the charge starts at x 3 and fills 50% of 28 pixels.
+        // Outline 34 x 18 at (1, 1): the charge starts at x 3 and fills 50% of 28 pixels,
+        // x 3 to 16; full, it ends at x 30 inside the wall at x 32.
         const QColor green(0x12, 0xC4, 0x7A);
         const QImage half = render(&gauge);
         QVERIFY(near(half.pixel(4, 4), green, 30));
-        QVERIFY(!near(half.pixel(24, 4), green, 60));
+        QVERIFY(near(half.pixel(15, 4), green, 30));
+        QVERIFY(!near(half.pixel(18, 4), green, 60));
         gauge.setValue(100);
-        QVERIFY(near(render(&gauge).pixel(29, 4), green, 30));
+        const QImage full = render(&gauge);
+        QVERIFY(near(full.pixel(29, 4), green, 30));
+        QVERIFY(!near(full.pixel(32, 4), green, 60));
     }
 
     void voltageLabelKeepsItsFormatting_data()

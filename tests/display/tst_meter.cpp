@@ -4,6 +4,8 @@
 
 #include <QtTest/QtTest>
 
+#include <algorithm>
+
 using namespace displaytest;
 
 namespace {
@@ -19,15 +21,20 @@ QImage meter(void (*set)(LxVehicleMeterWidget&))
     return render(&widget);
 }
 
-// Pixels in the colour of the rose's north letter, in the upper and lower half.
-QPair<int, int> northPixels(const QImage& image)
+// Where the rose's north letter (drawn in its own colour) is: 0 top, 1 right, 2 bottom,
+// 3 left of the centre, -1 nowhere.
+int northSide(const QImage& image)
 {
-    int upper = 0, lower = 0;
+    int count[4] = {};
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
-            if (near(image.pixel(x, y), QColor(0xFF, 0x6A, 0x3C), 20))
-                (y < image.height() / 2 ? upper : lower)++;
-    return {upper, lower};
+            if (near(image.pixel(x, y), QColor(0xFF, 0x6A, 0x3C), 20)) {
+                const int dx = x - image.width() / 2;
+                const int dy = y - image.height() / 2;
+                ++count[qAbs(dx) > qAbs(dy) ? (dx > 0 ? 1 : 3) : (dy > 0 ? 2 : 0)];
+            }
+    const int* most = std::max_element(count, count + 4);
+    return *most > 10 ? int(most - count) : -1;
 }
 
 } // namespace
@@ -44,10 +51,10 @@ private Q_SLOTS:
         widget.setHeading(720);
         QCOMPARE(widget.heading(), 360.0f);
 
-        const auto north = northPixels(meter([](LxVehicleMeterWidget& m) { m.setHeading(0); }));
-        QVERIFY(north.first > 10 && north.second == 0);
-        const auto south = northPixels(meter([](LxVehicleMeterWidget& m) { m.setHeading(180); }));
-        QVERIFY(south.first == 0 && south.second > 10);
+        // The rose turns so that the heading is under the index at the top.
+        QCOMPARE(northSide(meter([](LxVehicleMeterWidget& m) { m.setHeading(0); })), 0);
+        QCOMPARE(northSide(meter([](LxVehicleMeterWidget& m) { m.setHeading(90); })), 3);
+        QCOMPARE(northSide(meter([](LxVehicleMeterWidget& m) { m.setHeading(180); })), 2);
         QCOMPARE(meter([](LxVehicleMeterWidget& m) { m.setHeading(-30); }),
                  meter([](LxVehicleMeterWidget& m) { m.setHeading(330); }));
     }
