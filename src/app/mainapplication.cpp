@@ -272,7 +272,7 @@ void MainApplication::setMainWindow(IMainWindow* mainWindow)
 
 IMainWindow* MainApplication::MainWindow()
 {
-    return d->mainWindow;
+    return qobject_cast<IMainWindow*>(d->mainWindow.data());
 }
 
 bool MainApplication::insertPageWindow(QString page_name, QWidget* pageWidget)
@@ -383,15 +383,16 @@ void MainApplication::loadExternModules()
 
 void MainApplication::showAppWindow()
 {
-    if (d->mainWindow)
-        d->mainWindow->ShowRaiseWindow();
+    if (IMainWindow* window = MainWindow())
+        window->ShowRaiseWindow();
 }
 
 void MainApplication::showLoginDialog()
 {
-    if (!d->loginDialog || !d->mainWindow)
+    IMainWindow* window = MainWindow();
+    if (!d->loginDialog || !window)
         return;
-    d->mainWindow->hide();
+    window->hide();
     d->loginDialog->show();
 }
 

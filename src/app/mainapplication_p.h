@@ -13,8 +13,9 @@ class QTranslator;
 class MainApplicationImpl
 {
 public:
-    // Guarded so that a window deleted elsewhere is never deleted twice.
-    QPointer<IMainWindow> mainWindow;
+    // Guarded so that a window deleted elsewhere is never deleted twice. Held as a QObject and
+    // cast on use: while the window is being destroyed it is no longer an IMainWindow.
+    QPointer<QObject> mainWindow;
     QMap<QString, QWidget*> pages;
     QMap<MainApplication::language_role, QList<QTranslator*>> translators;
     QTextToSpeech* speech = nullptr;

@@ -46,11 +46,11 @@ private Q_SLOTS:
         m_thread->start();
         m_storage = new TextStorage(m_dir.path() + QStringLiteral("/logs/nested"));
         m_storage->moveToThread(m_thread);
+        connect(m_thread, &QThread::finished, m_storage, &QObject::deleteLater); // as the application does
     }
 
     void cleanup()
     {
-        QMetaObject::invokeMethod(m_storage, "deleteLater");
         m_thread->quit();
         m_thread->wait();
         delete m_thread;
