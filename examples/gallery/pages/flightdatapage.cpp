@@ -25,6 +25,30 @@ namespace {
 
 enum LinkState { Linked = 1, Weak = 2, Lost = 3 };
 
+// Keeps the meter square and centred in whatever room it is given: the instrument's
+// faces stretch with the widget.
+class SquareHolder : public QWidget
+{
+public:
+    explicit SquareHolder(QWidget* child)
+        : m_child(child)
+    {
+        child->setParent(this);
+        setMinimumSize(320, 320);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    }
+
+protected:
+    void resizeEvent(QResizeEvent*) override
+    {
+        const int side = qMin(width(), height());
+        m_child->setGeometry((width() - side) / 2, (height() - side) / 2, side, side);
+    }
+
+private:
+    QWidget* m_child;
+};
+
 ValueLabel* readout()
 {
     auto* label = new ValueLabel;
@@ -49,8 +73,7 @@ public:
         auto* body = new QHBoxLayout;
         layout->addLayout(body, 1);
         m_meter = new LxVehicleMeterWidget;
-        m_meter->setMinimumSize(360, 360);
-        body->addWidget(m_meter, 1);
+        body->addWidget(new SquareHolder(m_meter), 1);
 
         auto* form = new QFormLayout;
         form->setLabelAlignment(Qt::AlignRight);
@@ -99,8 +122,11 @@ private:
         m_link = new CommunicationInfoLabel;
         m_link->setFixedSize(84, 32);
         m_voltage = new BatteryVoltageLabel;
-        m_voltage->setFixedSize(130, 32);
+        m_voltage->setFixedSize(150, 32);
         m_battery = new BatteryPowerLabel;
+        QFont small = m_battery->font();
+        small.setPixelSize(10);
+        m_battery->setFont(small);
 
         m_linkDot = new ColorStatusWidget;
         m_linkDot->setFixedSize(14, 14);

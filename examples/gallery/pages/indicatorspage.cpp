@@ -178,7 +178,7 @@ private:
         code->setRadius(6);
         m_codeEntry = new QLineEdit;
         m_codeResult = new ColorLabel;
-        m_codeResult->setFixedWidth(160);
+        m_codeResult->setFixedWidth(200);
         m_codeResult->setRadius(4);
         const auto check = [this, code] {
             // Compare case-insensitively by converting both sides the same way.
@@ -195,11 +195,17 @@ private:
         m_qrText = new QLineEdit(QStringLiteral("https://vorlin.example/gallery"));
         m_qr = new QRcodeLabel;
         m_qr->setFixedSize(180, 180);
-        m_qr->setStyleSheet(QStringLiteral("QLabel { background: white; }"));
         connect(m_qrText, &QLineEdit::textChanged, m_qr, &QRcodeLabel::GenerateQRcode);
         m_qr->GenerateQRcode(m_qrText->text());
+        // The code fills its label edge to edge; scanners want a light margin around it.
+        auto* quietZone = new QWidget;
+        quietZone->setStyleSheet(QStringLiteral("background: white;"));
+        quietZone->setAttribute(Qt::WA_StyledBackground);
+        auto* margin = new QHBoxLayout(quietZone);
+        margin->setContentsMargins(16, 16, 16, 16);
+        margin->addWidget(m_qr);
         grid->addWidget(m_qrText, 1, 0, 1, 3);
-        grid->addWidget(m_qr, 2, 0, 1, 3, Qt::AlignLeft | Qt::AlignTop);
+        grid->addWidget(quietZone, 2, 0, 1, 3, Qt::AlignLeft | Qt::AlignTop);
         grid->setRowStretch(2, 1);
         return m_codesBox;
     }
