@@ -10,6 +10,7 @@
 
 #include <QtCore/QDebug>
 #include <QtCore/QDir>
+#include <QtCore/QHash>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QThread>
 
@@ -57,17 +58,36 @@ Result run(int threads, int linesPerThread, Log log, Drain drain)
     return {threads * linesPerThread / seconds, percentile(all, 0.50), percentile(all, 0.99)};
 }
 
-qint64 countLines(const QString& folder)
+// Counts the lines in a folder's files, reading only what was added since the last call.
+class LineCounter
 {
-    qint64 lines = 0;
-    const QDir dir(folder);
-    for (const QString& name : dir.entryList(QDir::Files)) {
-        QFile file(dir.filePath(name));
-        if (file.open(QIODevice::ReadOnly))
-            lines += file.readAll().count('\n');
+public:
+    explicit LineCounter(const QString& folder)
+        : m_folder(folder)
+    {
     }
-    return lines;
-}
+
+    qint64 count()
+    {
+        const QDir dir(m_folder);
+        for (const QString& name : dir.entryList(QDir::Files)) {
+            QFile file(dir.filePath(name));
+            if (!file.open(QIODevice::ReadOnly))
+                continue;
+            qint64& offset = m_offsets[name];
+            file.seek(offset);
+            const QByteArray added = file.read(file.size() - offset);
+            offset += added.size();
+            m_lines += added.count('\n');
+        }
+        return m_lines;
+    }
+
+private:
+    QString m_folder;
+    QHash<QString, qint64> m_offsets;
+    qint64 m_lines = 0;
+};
 
 void quietHandler(QtMsgType, const QMessageLogContext&, const QString&)
 {
@@ -97,11 +117,11 @@ int main(int argc, char** argv)
         app.ChangeLoggerPath(ours);
         while (app.CurrentLoggerPath() != ours)
             QThread::msleep(1);
-        const qint64 before = countLines(ours);
-        const qint64 expected = before + qint64(threads) * linesPerThread;
+        LineCounter counter(ours);
+        const qint64 expected = counter.count() + qint64(threads) * linesPerThread;
         const Result vorlin = run(threads, linesPerThread,
             [](int t, int i) { qInfo("producer %d line %d: link quality 87 %%, battery 23.9 V", t, i); },
-            [&] { while (countLines(ours) < expected) QThread::msleep(2); });
+            [&] { while (counter.count() < expected) QThread::msleep(2); });
 
         Result peers[2];
         for (int flushEveryLine = 1; flushEveryLine >= 0; --flushEveryLine) {

@@ -48,19 +48,55 @@ QString shortSourcePath(const char* file)
 {
     QString path = QString::fromLocal8Bit(file);
     path.replace(QLatin1Char('/'), QLatin1Char('\\'));
-    const QStringList parts = path.split(QLatin1Char('\\'));
-    if (parts.size() > 2)
-        return QStringLiteral("%1\\%2").arg(parts.at(parts.size() - 2), parts.last());
-    return path;
+    const int last = path.lastIndexOf(QLatin1Char('\\'));
+    if (last <= 0)
+        return path;
+    const int previous = path.lastIndexOf(QLatin1Char('\\'), last - 1);
+    // More than two parts: keep the folder and the file.
+    return previous < 0 ? path : path.mid(previous + 1);
 }
 
+// "yyyy-MM-dd hh:mm:ss.zzz" in local time. Formatting a date is slow, so each thread keeps the
+// text of the current second and appends only the milliseconds.
+QString timeStamp()
+{
+    thread_local qint64 cachedSecond = -1;
+    thread_local QString cachedText;
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    const qint64 second = now / 1000;
+    if (second != cachedSecond) {
+        cachedSecond = second;
+        cachedText = QDateTime::fromMSecsSinceEpoch(second * 1000).toString(QStringLiteral("yyyy-MM-dd hh:mm:ss."));
+    }
+    const int millis = int(now % 1000);
+    QString text;
+    text.reserve(cachedText.size() + 3);
+    text += cachedText;
+    text += QLatin1Char(char('0' + millis / 100));
+    text += QLatin1Char(char('0' + millis / 10 % 10));
+    text += QLatin1Char(char('0' + millis % 10));
+    return text;
+}
+
+// "%1 [%2] at %3:%4 - %5": time, level, source, line, text.
 QString formatLogLine(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     const QStringList& names = messageTypeNames();
-    const QString typeName = (type >= 0 && type < names.size()) ? names.at(type) : names.first();
-    return QStringLiteral("%1 [%2] at %3:%4 - %5")
-        .arg(QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz")), typeName,
-             shortSourcePath(context.file), QString::number(context.line), text);
+    const QString& typeName = (type >= 0 && type < names.size()) ? names.at(type) : names.first();
+    const QString source = shortSourcePath(context.file);
+    const QString line = QString::number(context.line);
+    QString result;
+    result.reserve(40 + typeName.size() + source.size() + line.size() + text.size());
+    result += timeStamp();
+    result += QLatin1String(" [");
+    result += typeName;
+    result += QLatin1String("] at ");
+    result += source;
+    result += QLatin1Char(':');
+    result += line;
+    result += QLatin1String(" - ");
+    result += text;
+    return result;
 }
 
 void messageHandler(QtMsgType type, const QMessageLogContext& context, const QString& text)

@@ -6,7 +6,6 @@
 #include <QtCore/QDateTime>
 #include <QtCore/QDir>
 #include <QtCore/QMutexLocker>
-#include <QtCore/QTextStream>
 
 namespace {
 
@@ -49,11 +48,14 @@ void TextStorageImpl::writeLines(const QStringList& lines)
 {
     if (!file || !file->isOpen())
         return;
-    QTextStream stream(file);
-    stream.setCodec("UTF-8");
+    // UTF-8 on every platform. Each line goes to the operating system before the next one is
+    // taken, so a crash loses at most the line being written.
+    QByteArray bytes;
     for (const QString& line : lines) {
-        stream << line << '\n';
-        stream.flush();
+        bytes = line.toUtf8();
+        bytes += '\n';
+        file->write(bytes);
+        file->flush();
     }
 }
 
