@@ -83,16 +83,6 @@ void run(std::shared_ptr<PeriodicTimer::State> state, std::function<void()> call
 
 } // namespace
 
-PeriodicTimer::PeriodicTimer(std::function<void()> callback)
-    : m_callback(std::move(callback))
-{
-}
-
-PeriodicTimer::~PeriodicTimer()
-{
-    stop();
-}
-
 unsigned PeriodicTimer::start(int periodMs)
 {
     stop();

@@ -25,16 +25,6 @@ void CALLBACK onTick(UINT, UINT, DWORD_PTR user, DWORD_PTR, DWORD_PTR)
 
 } // namespace
 
-PeriodicTimer::PeriodicTimer(std::function<void()> callback)
-    : m_callback(std::move(callback))
-{
-}
-
-PeriodicTimer::~PeriodicTimer()
-{
-    stop();
-}
-
 unsigned PeriodicTimer::start(int periodMs)
 {
     stop();
