@@ -7,6 +7,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QResizeEvent>
+#include <QtWidgets/QAbstractScrollArea>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QStyleOption>
 
@@ -39,6 +40,7 @@ void ViewItem::setItemContents(const QStringList& texts, const QList<int>& weigh
         auto* label = new QLabel(this);
         label->setStyleSheet(style);
         label->setFont(font);
+        label->installEventFilter(this);
         label->show();
         return label;
     });
@@ -47,7 +49,7 @@ void ViewItem::setItemContents(const QStringList& texts, const QList<int>& weigh
             label->setText(texts.at(i));
     }
     updateSeparators();
-    QCoreApplication::postEvent(this, new QResizeEvent(size(), size()));
+    scheduleRelayout();
 }
 
 void ViewItem::setItemWidgets(QList<QWidget*>& widgets, QList<int> weights)
@@ -63,15 +65,62 @@ void ViewItem::setItemWidgets(QList<QWidget*>& widgets, QList<int> weights)
     m_weights = weights;
     for (QWidget* widget : qAsConst(m_cells)) {
         widget->setParent(this);
+        widget->installEventFilter(this);
         widget->show();
     }
     updateSeparators();
-    QCoreApplication::postEvent(this, new QResizeEvent(size(), size()));
+    scheduleRelayout();
+}
+
+// Lays the cells out again once the event loop runs. A queued call delivers the resize event
+// rather than a posted QResizeEvent: Qt folds posted resize events together by searching all
+// pending events, which adds up when thousands of rows are filled in one go.
+void ViewItem::scheduleRelayout()
+{
+    if (m_relayoutPending)
+        return;
+    m_relayoutPending = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_relayoutPending = false;
+            QResizeEvent relayout(size(), size());
+            QCoreApplication::sendEvent(this, &relayout);
+        },
+        Qt::QueuedConnection);
 }
 
 void ViewItem::updateSeparators()
 {
     vorlin::syncSeparators(m_separators, m_cells.size(), this, m_verticalLineColor);
+    for (SeparateLineWidget* line : qAsConst(m_separators))
+        line->installEventFilter(this); // installing twice keeps one filter
+}
+
+// Every widget shown posts itself a deferred update. In a scroll area holding thousands of
+// rows, the repaint manager would clip each such update against all sibling rows; a row out
+// of sight needs none, since scrolling it into view repaints it anyway.
+bool ViewItem::isScrolledAway() const
+{
+    const QWidget* content = parentWidget();
+    const QWidget* viewport = content ? content->parentWidget() : nullptr;
+    if (!viewport || !qobject_cast<const QAbstractScrollArea*>(viewport->parentWidget()))
+        return false;
+    return !viewport->rect().intersects(QRect(mapTo(viewport, QPoint()), size()));
+}
+
+bool ViewItem::event(QEvent* event)
+{
+    if (event->type() == QEvent::UpdateLater && isScrolledAway())
+        return true;
+    return QWidget::event(event);
+}
+
+bool ViewItem::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::UpdateLater && isScrolledAway())
+        return true;
+    return QWidget::eventFilter(watched, event);
 }
 
 void ViewItem::setFontStyle(int pixelSize, const QColor& color, const QString& family)

@@ -30,10 +30,14 @@ public:
     QColor backgroundColor() const { return m_backgroundColor; }
 
 protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    bool isScrolledAway() const;
+    void scheduleRelayout();
     QString styleSheetText() const;
     void updateStyleSheet();
     void updateSeparators();
@@ -49,4 +53,5 @@ private:
     int m_fontSize = 12;
     SeparateLineWidget* m_bottomLine = nullptr;
     QList<SeparateLineWidget*> m_separators;
+    bool m_relayoutPending = false;
 };

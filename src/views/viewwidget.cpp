@@ -106,13 +106,24 @@ void ViewWidget::appendViewItem(ViewItem* item)
 
 void ViewWidget::insertViewItem(int index, ViewItem* item)
 {
-    if (!item || m_items.contains(item))
+    // A row not yet under the content widget cannot be in the list: no need to search it.
+    if (!item || (item->parentWidget() == m_content && m_items.contains(item)))
         return;
     item->setParent(m_content);
     item->setItemLineColor(m_insideVerticalColor, m_insideHorizontalColor);
-    m_items.insert(qBound(0, index, m_items.size()), item);
-    item->show();
-    applyAlternation();
+    index = qBound(0, index, m_items.size());
+    m_items.insert(index, item);
+    // Shown by the next layout, together with every row added before it, so that the repaint
+    // manager does not track each new row on its own.
+    m_unshown.append(item);
+    if (index == m_items.size() - 1) {
+        // Appending leaves the rows above as they are: only the new row's fill is decided.
+        const bool filled = m_alternate && index % 2 == 1;
+        if (item->isItemBackcolorEnabled() != filled)
+            item->setItemBackcolorEnabled(filled);
+    } else {
+        applyAlternation();
+    }
     relayout();
 }
 
@@ -120,6 +131,7 @@ void ViewWidget::removeViewItem(ViewItem* item)
 {
     if (!m_items.removeOne(item))
         return;
+    m_unshown.removeOne(item);
     applyAlternation();
     relayout();
     item->hide();
@@ -133,11 +145,16 @@ void ViewWidget::removeAll()
         item->deleteLater();
     }
     m_items.clear();
+    m_unshown.clear();
     relayout();
 }
 
 void ViewWidget::relayout()
 {
+    // One pending layout serves every change made before the event loop runs again.
+    if (m_layoutPending)
+        return;
+    m_layoutPending = true;
     QCoreApplication::postEvent(this, new QResizeEvent(size(), size()));
 }
 
@@ -152,6 +169,7 @@ void ViewWidget::paintEvent(QPaintEvent*)
 void ViewWidget::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    m_layoutPending = false;
     m_header->setGeometry(0, 0, width(), m_headerHeight);
     m_scrollArea->setGeometry(0, m_headerHeight, width(), height() - m_headerHeight);
     const int rowWidth = m_scrollArea->width();
@@ -161,7 +179,11 @@ void ViewWidget::resizeEvent(QResizeEvent* event)
         // Rows overlap by one pixel on purpose: a row's bottom line and the next row's top
         // share a pixel row.
         y = item->geometry().bottom();
-        QCoreApplication::postEvent(item, new QResizeEvent(item->size(), item->size()));
+        QResizeEvent relayout(item->size(), item->size());
+        QCoreApplication::sendEvent(item, &relayout);
     }
+    for (ViewItem* item : qAsConst(m_unshown))
+        item->show();
+    m_unshown.clear();
     m_content->resize(rowWidth, y + 1);
 }

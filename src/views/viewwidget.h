@@ -58,6 +58,7 @@ private:
 
     ViewHeader* m_header = nullptr;
     QList<ViewItem*> m_items;
+    QList<ViewItem*> m_unshown; // added since the last layout
     QScrollArea* m_scrollArea = nullptr;
     QWidget* m_content = nullptr;
     QColor m_outsideBorderColor{204, 204, 204, 255};
@@ -70,4 +71,5 @@ private:
     QString m_headerFontFamily = QStringLiteral("Microsoft YaHei");
     int m_headerHeight = 30;
     int m_itemHeight = 30;
+    bool m_layoutPending = false;
 };
