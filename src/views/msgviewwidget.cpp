@@ -65,12 +65,17 @@ void MsgViewWidget::scrollTop()
 
 void MsgViewWidget::relayout()
 {
+    // One pending layout serves every message added before the event loop runs again.
+    if (m_layoutPending)
+        return;
+    m_layoutPending = true;
     QCoreApplication::postEvent(this, new QResizeEvent(size(), size()));
 }
 
 void MsgViewWidget::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    m_layoutPending = false;
     m_scrollArea->setGeometry(rect().adjusted(1, 1, -1, -1));
     const int rowWidth = m_scrollArea->width();
     int y = 0;

@@ -41,4 +41,5 @@ private:
     QScrollArea* m_scrollArea = nullptr;
     QWidget* m_content = nullptr;
     QList<MsgViewItem*> m_items;
+    bool m_layoutPending = false;
 };
