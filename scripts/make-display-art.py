@@ -170,8 +170,9 @@ def svg(body):
 
 def undo_placement(sx, sy, px, py):
     """The group transform that cancels a placement scaling by (sx, sy) about (px, py)."""
+    exact = lambda v: ("%.5f" % v).rstrip("0").rstrip(".")
     return 'transform="matrix(%s 0 0 %s %s %s)"' % (
-        fmt(1 / sx), fmt(1 / sy), fmt(px - px / sx), fmt(py - py / sy))
+        exact(1 / sx), exact(1 / sy), exact(px - px / sx), exact(py - py / sy))
 
 
 # The meter moves the ladder by h * 1.001 * pitch / 270 before scaling it 1.2 times.
@@ -180,8 +181,9 @@ LADDER_UNITS_PER_DEGREE = 200 * 1.001 / 270
 
 def pitch_ladder(limit):
     """Sky, ground and a ladder with a bar every 10 and a short bar every 5 degrees up
-    to +/- limit. Sky and ground reach past the view box just far enough to keep the
-    meter's round window covered at full pitch (+/- 60) and any roll."""
+    to +/- limit. Sky and ground cover just the meter's round window (radius 70 here)
+    at full pitch (+/- 60, the window's centre moving 44.5 up or down) and any roll:
+    their area is most of the meter's paint cost."""
     bars, labels = [], []
     for degree in range(-limit, limit + 1, 5):
         if degree == 0:
@@ -198,9 +200,9 @@ def pitch_ladder(limit):
             labels.append(text_path(number, 100 - half - 6, y, 3.6))
             labels.append(text_path(number, 100 + half + 6, y, 3.6))
     return svg(
-        '<rect x="-20" y="-40" width="240" height="140" fill="#3C8CD8"/>\n'
-        '<rect x="-20" y="100" width="240" height="140" fill="#8A5A2E"/>\n'
-        '<path d="M-20 100H220" stroke="#fff" stroke-width="1"/>\n'
+        '<rect x="28" y="-16" width="144" height="116" fill="#3C8CD8"/>\n'
+        '<rect x="28" y="100" width="144" height="116" fill="#8A5A2E"/>\n'
+        '<rect x="28" y="99.5" width="144" height="1" fill="#fff"/>\n'
         '<path d="%s" stroke="#fff" stroke-width="0.7" fill="none"/>\n'
         '<path d="%s" stroke="#fff" stroke-width="0.55" fill="none" stroke-linejoin="bevel"/>\n'
         % ("".join(bars), "".join(labels)))
@@ -233,17 +235,15 @@ ROLL_RADIUS = 54  # widget units; the roll pointer's tip touches the arc
 
 
 def roll_scale():
-    """An arc over the top with marks at 10, 20, 30, 45 and 60 degrees each side and a
-    triangle at zero, drawn about the widget centre (the meter rotates it there)."""
+    """An arc over the top with marks at 10, 20, 30, 45 and 60 degrees each side (long
+    ones at 30 and 60, unnumbered as on a real instrument, which also keeps the face
+    cheap) and a triangle at zero, drawn about the widget centre where the meter
+    rotates it."""
     r = ROLL_RADIUS
-    marks = [10, 20, 30, 45, 60]
-    ticks, labels = [], []
-    for m in marks:
+    ticks = []
+    for m in (10, 20, 30, 45, 60):
         length = 8 if m in (30, 60) else 5
-        for a in (-m, m):
-            ticks.append((a, r, r + length))
-            x, y = polar(100, 100, r + 13, a)
-            labels.append(text_path(str(m), x, y, 4.2, a))
+        ticks += [(-m, r, r + length), (m, r, r + length)]
     x1, y1 = polar(100, 100, r, -60)
     x2, y2 = polar(100, 100, r, 60)
     arc = "M%s %sA%d %d 0 0 1 %s %s" % (fmt(x1), fmt(y1), r, r, fmt(x2), fmt(y2))
@@ -252,9 +252,7 @@ def roll_scale():
         '<g %s>\n'
         '<path d="%s%s" stroke="#fff" stroke-width="1.2" fill="none"/>\n'
         '<path d="%s" fill="#fff"/>\n'
-        '<path d="%s" stroke="#fff" stroke-width="0.6" fill="none" stroke-linejoin="bevel"/>\n'
-        '</g>\n' % (undo_placement(0.6572, 0.29, 100, 46), arc, radial_ticks(100, 100, ticks), zero,
-                    "".join(labels)))
+        '</g>\n' % (undo_placement(0.6572, 0.29, 100, 46), arc, radial_ticks(100, 100, ticks), zero))
 
 
 def top_pointer():
