@@ -32,7 +32,7 @@ void ColorLabel::setTextColor(const QColor& color)
 {
     setAutoFillBackground(true);
     QPalette palette = this->palette();
-    palette.setBrush(QPalette::All, QPalette::WindowText, QBrush(color));
+    palette.setBrush(QPalette::All, foregroundRole(), QBrush(color));
     setPalette(palette);
 }
 

@@ -50,12 +50,9 @@ private Q_SLOTS:
         QCOMPARE(code.size(), 4);
         QCOMPARE(label.getLowVerificationCode(), code.toLower());
         QCOMPARE(label.getUpVerificationCode(), code.toUpper());
+        for (QChar c : code)
+            QVERIFY(!excluded.contains(c));
 
-        for (int i = 0; i < 500; ++i) {
-            label.slotReflushVerifyCode();
-            for (QChar c : label.getVerificationCode())
-                QVERIFY(!excluded.contains(c));
-        }
         const int before = changed.count();
         QTest::mouseClick(&label, Qt::RightButton);
         QCOMPARE(changed.count(), before);
