@@ -21,6 +21,7 @@ public:
     QString text() const { return m_ip; }
 
     // Gives the keyboard focus to the first field.
+    using QFrame::setFocus;
     void setFocus();
 
     void setFontSize(int pixelSize);

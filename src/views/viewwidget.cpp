@@ -8,6 +8,7 @@
 #include <QtGui/QPainter>
 #include <QtGui/QResizeEvent>
 #include <QtWidgets/QScrollArea>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QStyleOption>
 
 ViewWidget::ViewWidget(QWidget* parent)
@@ -158,6 +159,25 @@ void ViewWidget::relayout()
     QCoreApplication::postEvent(this, new QResizeEvent(size(), size()));
 }
 
+// A row shown under a visible parent posts that parent a layout request, and Qt searches all
+// pending events to fold each request into the last: over thousands of new rows that adds up.
+// Under a hidden parent showing only changes state, and showing the parent again shows them
+// all at once. Not while a cell has the keyboard focus, which hiding would take away.
+void ViewWidget::showNewRows()
+{
+    if (m_unshown.isEmpty())
+        return;
+    const bool batch = m_unshown.size() > 1 && m_content->isVisible()
+                       && !m_content->isAncestorOf(QApplication::focusWidget());
+    if (batch)
+        m_content->hide();
+    for (ViewItem* item : qAsConst(m_unshown))
+        item->show();
+    m_unshown.clear();
+    if (batch)
+        m_content->show();
+}
+
 void ViewWidget::paintEvent(QPaintEvent*)
 {
     QStyleOption option;
@@ -182,8 +202,6 @@ void ViewWidget::resizeEvent(QResizeEvent* event)
         QResizeEvent relayout(item->size(), item->size());
         QCoreApplication::sendEvent(item, &relayout);
     }
-    for (ViewItem* item : qAsConst(m_unshown))
-        item->show();
-    m_unshown.clear();
+    showNewRows();
     m_content->resize(rowWidth, y + 1);
 }

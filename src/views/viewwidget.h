@@ -55,6 +55,7 @@ protected:
 private:
     void applyAlternation();
     void relayout();
+    void showNewRows();
 
     ViewHeader* m_header = nullptr;
     QList<ViewItem*> m_items;

@@ -8,6 +8,7 @@
 #include "warnmsgview.h"
 
 #include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -59,6 +60,7 @@ private Q_SLOTS:
     void viewRowsAlternateAndOverlap();
     void viewRowBookkeeping();
     void viewSettersClamp();
+    void viewKeepsFocusWhileRowsArrive();
 
     void messagesNewestFirstWithinCap();
     void messageCapLowersOneRowAtATime();
@@ -291,6 +293,37 @@ void TestViews::viewSettersClamp()
     QCoreApplication::processEvents();
     QCOMPARE(view.header()->height(), 24);
     QCOMPARE(row->height(), 24);
+}
+
+// New rows are shown together with the next layout; a cell being edited keeps the focus.
+void TestViews::viewKeepsFocusWhileRowsArrive()
+{
+    ViewWidget view;
+    view.resize(300, 200);
+    auto* editRow = new ViewItem;
+    auto* edit = new QLineEdit;
+    QList<QWidget*> cells{edit};
+    editRow->setItemWidgets(cells, {1});
+    view.appendViewItem(editRow);
+    view.show();
+    QApplication::setActiveWindow(&view);
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    QCoreApplication::processEvents();
+    edit->setFocus();
+    QTRY_VERIFY(edit->hasFocus());
+
+    QList<ViewItem*> added;
+    for (int i = 0; i < 5; ++i) {
+        auto* row = new ViewItem;
+        row->setItemContents({QString::number(i)}, {1});
+        view.appendViewItem(row);
+        added << row;
+    }
+    QCoreApplication::processEvents();
+    QVERIFY(edit->hasFocus());
+    for (ViewItem* row : added)
+        QVERIFY(row->isVisible());
+    QCOMPARE(added.last()->y(), 5 * 29);
 }
 
 void TestViews::messagesNewestFirstWithinCap()
