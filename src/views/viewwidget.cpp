@@ -114,8 +114,7 @@ void ViewWidget::insertViewItem(int index, ViewItem* item)
     item->setItemLineColor(m_insideVerticalColor, m_insideHorizontalColor);
     index = qBound(0, index, m_items.size());
     m_items.insert(index, item);
-    // Shown by the next layout, together with every row added before it, so that the repaint
-    // manager does not track each new row on its own.
+    // Shown by the next layout, in one batch with every row added before it (showNewRows).
     m_unshown.append(item);
     if (index == m_items.size() - 1) {
         // Appending leaves the rows above as they are: only the new row's fill is decided.
