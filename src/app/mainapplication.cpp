@@ -44,7 +44,7 @@ const QStringList& messageTypeNames()
 }
 
 // The last two components of the source path, joined by a backslash on every platform.
-QString shortSourcePath(const char* file)
+QString sourcePathParts(const char* file)
 {
     QString path = QString::fromLocal8Bit(file);
     path.replace(QLatin1Char('/'), QLatin1Char('\\'));
@@ -54,6 +54,18 @@ QString shortSourcePath(const char* file)
     const int previous = path.lastIndexOf(QLatin1Char('\\'), last - 1);
     // More than two parts: keep the folder and the file.
     return previous < 0 ? path : path.mid(previous + 1);
+}
+
+QString shortSourcePath(const char* file)
+{
+    // A thread mostly logs from the same file: remember the last name per thread.
+    thread_local QByteArray cachedFile;
+    thread_local QString cachedPath;
+    if (file && !cachedFile.isNull() && qstrcmp(file, cachedFile.constData()) == 0)
+        return cachedPath;
+    cachedFile = QByteArray(file ? file : "");
+    cachedPath = sourcePathParts(file);
+    return cachedPath;
 }
 
 // "yyyy-MM-dd hh:mm:ss.zzz" in local time. Formatting a date is slow, so each thread keeps the

@@ -5,6 +5,7 @@
 
 #include <QtCore/QDateTime>
 #include <QtCore/QDir>
+#include <QtCore/QMetaMethod>
 #include <QtCore/QMutexLocker>
 
 namespace {
@@ -40,8 +41,8 @@ void TextStorageImpl::beginNewFile()
         + QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh_mm_ss.log"));
     file = new QFile(name);
     // Neither append nor truncate: a second file begun within the same second overwrites
-    // the first one from its start.
-    file->open(QIODevice::ReadWrite);
+    // the first one from its start. Unbuffered: every line is one write to the system.
+    file->open(QIODevice::ReadWrite | QIODevice::Unbuffered);
 }
 
 void TextStorageImpl::writeLines(const QStringList& lines)
@@ -49,13 +50,12 @@ void TextStorageImpl::writeLines(const QStringList& lines)
     if (!file || !file->isOpen())
         return;
     // UTF-8 on every platform. Each line goes to the operating system before the next one is
-    // taken, so a crash loses at most the line being written.
+    // taken (the file is unbuffered), so a crash loses at most the line being written.
     QByteArray bytes;
     for (const QString& line : lines) {
         bytes = line.toUtf8();
         bytes += '\n';
         file->write(bytes);
-        file->flush();
     }
 }
 
@@ -110,9 +110,11 @@ void TextStorage::appendLine(const QString& line)
         return;
     QMutexLocker locker(&d->lock);
     d->pending.append(line);
-    // Only the first line of a burst asks the log thread to write.
+    // Only the first line of a burst asks the log thread to write. The slot is looked up by
+    // name once; the lookup would otherwise cost more than the rest of the call.
+    static const QMetaMethod saveText = staticMetaObject.method(staticMetaObject.indexOfSlot("slotDoSaveText()"));
     if (d->pending.size() == 1)
-        QMetaObject::invokeMethod(this, "slotDoSaveText");
+        saveText.invoke(this, Qt::AutoConnection);
 }
 
 void TextStorage::writeLineNow(const QString& line)
