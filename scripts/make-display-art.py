@@ -8,25 +8,10 @@ rasterised with 4 x 4 supersampling for smooth edges.
 """
 import math
 import os
-import struct
-import zlib
+
+from artwork import SAMPLES, write_png
 
 ROOT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "resources")
-SAMPLES = 4
-
-
-def write_png(path, width, height, pixels):
-    """pixels: rows of (r, g, b, a) tuples, straight (not premultiplied) alpha."""
-    raw = b"".join(b"\x00" + bytes(c for px in row for c in px) for row in pixels)
-
-    def chunk(kind, data):
-        body = kind + data
-        return struct.pack(">I", len(data)) + body + struct.pack(">I", zlib.crc32(body) & 0xFFFFFFFF)
-
-    header = struct.pack(">IIBBBBB", width, height, 8, 6, 0, 0, 0)
-    with open(path, "wb") as out:
-        out.write(b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header)
-                  + chunk(b"IDAT", zlib.compress(raw, 9)) + chunk(b"IEND", b""))
 
 
 def render(width, height, shade):
@@ -345,7 +330,7 @@ if __name__ == "__main__":
                (os.path.join(ROOT, "new_png/icon_monitor_detail_battery.png"), battery_outline())]
     for path, art in bitmaps + list(level_icons()):
         os.makedirs(os.path.dirname(path), exist_ok=True)
-        write_png(path, *art)
+        write_png(path, art[2])
         print("wrote", os.path.normpath(path))
     os.makedirs(os.path.join(ROOT, "meter"), exist_ok=True)
     for name, text in meter_faces().items():
