@@ -1,11 +1,11 @@
 #pragma once
 
+#include <QtCore/QEvent>
 #include <QtCore/QList>
 #include <QtCore/QString>
+#include <QtWidgets/QWidget>
 
 #include <functional>
-
-class QWidget;
 
 // The gallery's page catalogue. A page registers itself from its own source file:
 //   GALLERY_PAGE(ButtonsPage, QT_TRANSLATE_NOOP("Gallery", "Buttons"), 20)
@@ -26,3 +26,17 @@ public:
 
 #define GALLERY_PAGE(Class, title, order) \
     static const bool galleryPageRegistered##Class = GalleryPages::add(title, order, [] { return new Class; });
+
+// A page whose texts follow the language switch: retranslate() runs on every language change.
+class TranslatedPage : public QWidget
+{
+protected:
+    virtual void retranslate() = 0;
+
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() == QEvent::LanguageChange)
+            retranslate();
+        QWidget::changeEvent(event);
+    }
+};

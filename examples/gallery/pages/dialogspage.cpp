@@ -58,7 +58,7 @@ void fillShell(QWidget* container, const QString& text)
 
 } // namespace
 
-class DialogsPage : public QWidget
+class DialogsPage : public TranslatedPage
 {
     Q_OBJECT
 public:
@@ -150,16 +150,9 @@ public:
         delete m_note.data();
     }
 
-protected:
-    void changeEvent(QEvent* event) override
-    {
-        if (event->type() == QEvent::LanguageChange)
-            retranslate();
-        QWidget::changeEvent(event);
-    }
 
 private:
-    void retranslate()
+    void retranslate() override
     {
         m_boxes->setTitle(tr("Message boxes"));
         m_frames->setTitle(tr("Frames"));

@@ -61,7 +61,7 @@ ValueLabel* readout()
 
 } // namespace
 
-class FlightDataPage : public QWidget
+class FlightDataPage : public TranslatedPage
 {
     Q_OBJECT
 public:
@@ -97,13 +97,6 @@ public:
         refresh();
     }
 
-protected:
-    void changeEvent(QEvent* event) override
-    {
-        if (event->type() == QEvent::LanguageChange)
-            retranslate();
-        QWidget::changeEvent(event);
-    }
 
 private:
     // A dark bar as an application's title bar carries it: link and battery read-outs,
@@ -163,7 +156,7 @@ private:
         return m_tip;
     }
 
-    void retranslate()
+    void retranslate() override
     {
         m_rollLabel->setText(tr("Roll"));
         m_pitchLabel->setText(tr("Pitch"));

@@ -69,7 +69,7 @@ private:
 
 } // namespace
 
-class IndicatorsPage : public QWidget
+class IndicatorsPage : public TranslatedPage
 {
     Q_OBJECT
 public:
@@ -89,13 +89,6 @@ public:
         stopFrames();
     }
 
-protected:
-    void changeEvent(QEvent* event) override
-    {
-        if (event->type() == QEvent::LanguageChange)
-            retranslate();
-        QWidget::changeEvent(event);
-    }
 
     // The worker runs only while the page is on screen.
     void showEvent(QShowEvent* event) override
@@ -218,7 +211,7 @@ private:
         QCoreApplication::sendPostedEvents(m_movie, CustomMovieEvent::ComMoviEventType);
     }
 
-    void retranslate()
+    void retranslate() override
     {
         m_spinnersBox->setTitle(tr("Waiting"));
         m_progressBox->setTitle(tr("Progress"));

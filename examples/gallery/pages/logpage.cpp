@@ -27,7 +27,7 @@ MainApplication* application()
 
 } // namespace
 
-class LogPage : public QWidget
+class LogPage : public TranslatedPage
 {
     Q_OBJECT
 public:
@@ -88,16 +88,9 @@ public:
         QTimer::singleShot(0, this, [] { qInfo() << "LogPage: the gallery is running"; });
     }
 
-protected:
-    void changeEvent(QEvent* event) override
-    {
-        if (event->type() == QEvent::LanguageChange)
-            retranslate();
-        QWidget::changeEvent(event);
-    }
 
 private:
-    void retranslate()
+    void retranslate() override
     {
         m_languageLabel->setText(tr("Language"));
         m_fileLabel->setText(tr("Current log file"));
