@@ -2,6 +2,8 @@
 # usage: configure_and_build BUILD_DIR [extra cmake arguments...]
 set -euo pipefail
 ROOT="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
+# Paths relative to the checkout, so that ccache (when present) serves every clone and build folder.
+export CCACHE_BASEDIR="${CCACHE_BASEDIR:-$ROOT}" CCACHE_NOHASHDIR="${CCACHE_NOHASHDIR:-1}"
 
 configure_and_build() {
   local build_dir="$1"
