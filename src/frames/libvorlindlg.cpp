@@ -30,8 +30,8 @@ QMessageBox* createBox(QWidget* parent, QMessageBox::Icon icon, std::initializer
     auto* box = new QMessageBox(parent);
     libVorlinDlg::SetStyle(box, styleSheetPath);
     box->setIcon(icon);
-    for (const ButtonSpec& spec : buttons)
-        box->addButton(QString::fromUtf8(spec.text), spec.role)->setFixedSize(spec.size);
+    for (const ButtonSpec& button : buttons)
+        box->addButton(QString::fromUtf8(button.text), button.role)->setFixedSize(button.size);
     return box;
 }
 
