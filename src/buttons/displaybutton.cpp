@@ -13,14 +13,9 @@ DisplayButton::DisplayButton(QWidget* parent)
     QFont f = font();
     f.setPointSize(11);
     setFont(f);
-    m_tipColors[0] = Qt::white;
-    for (int i = 1; i < ColorCount; ++i)
-        m_tipColors[i] = Qt::blue;
-    m_areaColors[0] = Qt::black;
-    m_areaColors[1] = QColor(230, 180, 86);
-    m_areaColors[2] = QColor(220, 120, 6);
-    m_areaColors[3] = QColor(201, 107, 0);
-    m_areaColors[4] = QColor(241, 241, 241);
+    m_tipColors = {QColor(Qt::white), QColor(Qt::blue), QColor(Qt::blue), QColor(Qt::blue), QColor(Qt::blue)};
+    m_areaColors = {QColor(Qt::black), QColor(230, 180, 86), QColor(220, 120, 6), QColor(201, 107, 0),
+                    QColor(241, 241, 241)};
 }
 
 DisplayButton::~DisplayButton() = default;
@@ -66,22 +61,14 @@ QString DisplayButton::areaText() const
 void DisplayButton::setTipBkgColor(const QColor& text, const QColor& normal, const QColor& hover,
                                    const QColor& press, const QColor& disable)
 {
-    m_tipColors[0] = text;
-    m_tipColors[1] = normal;
-    m_tipColors[2] = hover;
-    m_tipColors[3] = press;
-    m_tipColors[4] = disable;
+    m_tipColors = {text, normal, hover, press, disable};
     update();
 }
 
 void DisplayButton::setAreaBkgColor(const QColor& text, const QColor& normal, const QColor& hover,
                                     const QColor& press, const QColor& disable)
 {
-    m_areaColors[0] = text;
-    m_areaColors[1] = normal;
-    m_areaColors[2] = hover;
-    m_areaColors[3] = press;
-    m_areaColors[4] = disable;
+    m_areaColors = {text, normal, hover, press, disable};
     update();
 }
 

@@ -5,6 +5,8 @@
 #include <QtGui/QColor>
 #include <QtWidgets/QWidget>
 
+#include <array>
+
 // A two-part button: a caption strip (the tip) on top and a clickable area below
 // it. Only a click in the area emits sigClicked().
 class VORLIN_EXPORT DisplayButton : public QWidget
@@ -49,8 +51,8 @@ private:
     int m_radius = 8;
     int m_tipHeight = 30;
     int m_state = 0; // 0 normal, 1 hover, 2 press
-    QColor m_tipColors[ColorCount];
+    std::array<QColor, ColorCount> m_tipColors;
     QString m_tipText;
-    QColor m_areaColors[ColorCount];
+    std::array<QColor, ColorCount> m_areaColors;
     QString m_areaText;
 };
