@@ -92,8 +92,10 @@ int runChild(int argc, char** argv)
         QThread::msleep(5);
     if (mode == "fatal")
         qFatal("fatal probe %d", 42);
-    if (mode == "crash")
-        *reinterpret_cast<volatile int*>(std::uintptr_t(16)) = 1;
+    if (mode == "crash") {
+        volatile std::uintptr_t unmapped = 16; // opaque to the compiler: a real fault at run time
+        *reinterpret_cast<volatile int*>(unmapped) = 1;
+    }
     return 0;
 }
 
