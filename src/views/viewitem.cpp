@@ -13,9 +13,7 @@
 
 ViewItem::ViewItem(QWidget* parent)
     : QWidget(parent)
-    , m_bottomLine(new SeparateLineWidget(this))
 {
-    m_bottomLine->setColor(m_horizontalLineColor);
 }
 
 // Rows clear the border and fill the label background; the header does it the other way round.
@@ -30,17 +28,21 @@ void ViewItem::setItemContents(const QStringList& texts, const QList<int>& weigh
 {
     m_weights = weights;
     vorlin::padWeights(m_weights, texts.size());
+    if (!m_labelsMade) {
+        // A view of thousands of rows shows a few dozen: the others need no widgets yet.
+        m_pendingTexts = texts;
+        m_pendingRefreshed = qMin(m_pendingRefreshed, texts.size());
+        m_labelsPending = true;
+        if (!m_heldByView && testAttribute(Qt::WA_WState_Polished))
+            makePendingLabels();
+        return;
+    }
     // Labels made here get the style text with a closing ";", later refreshes the one without;
     // both read the same.
     const QString style = styleSheetText() + QLatin1Char(';');
-    QFont font = this->font();
-    font.setFamily(m_fontFamily);
-    font.setPixelSize(m_fontSize);
+    const QFont font = labelFont();
     vorlin::syncCells(m_cells, texts.size(), [&] {
-        auto* label = new QLabel(this);
-        label->setStyleSheet(style);
-        label->setFont(font);
-        label->installEventFilter(this);
+        QLabel* label = makeLabel(style, font);
         label->show();
         return label;
     });
@@ -52,8 +54,62 @@ void ViewItem::setItemContents(const QStringList& texts, const QList<int>& weigh
     scheduleRelayout();
 }
 
+QLabel* ViewItem::makeLabel(const QString& styleSheet, const QFont& font)
+{
+    auto* label = new QLabel(this);
+    label->setStyleSheet(styleSheet);
+    label->setFont(font);
+    label->installEventFilter(this);
+    return label;
+}
+
+QFont ViewItem::labelFont() const
+{
+    QFont font = this->font();
+    font.setFamily(m_fontFamily);
+    font.setPixelSize(m_fontSize);
+    return font;
+}
+
+void ViewItem::makePendingLabels()
+{
+    m_labelsMade = true;
+    if (!m_labelsPending)
+        return;
+    m_labelsPending = false;
+    // Each label gets the style text it would have had if made at once: the refreshed one if
+    // a style change came after its text, else the one with the closing ";".
+    const QString refreshed = styleSheetText();
+    const QString fresh = refreshed + QLatin1Char(';');
+    const QFont font = labelFont();
+    for (int i = 0; i < m_pendingTexts.size(); ++i) {
+        QLabel* label = makeLabel(i < m_pendingRefreshed ? refreshed : fresh, font);
+        label->setText(m_pendingTexts.at(i));
+        m_cells.append(label);
+    }
+    m_pendingTexts.clear();
+    m_pendingRefreshed = 0;
+    updateSeparators();
+    // Laid out before they are shown, and at once: the row may be painted before the event
+    // loop comes round again.
+    layoutCells(size());
+    for (QWidget* cell : qAsConst(m_cells))
+        cell->show();
+}
+
+QList<QWidget*> ViewItem::getItemWidgets() const
+{
+    // The cells exist for the caller as soon as the contents are set.
+    const_cast<ViewItem*>(this)->makePendingLabels();
+    return m_cells;
+}
+
 void ViewItem::setItemWidgets(QList<QWidget*>& widgets, QList<int> weights)
 {
+    m_labelsMade = true;
+    m_labelsPending = false;
+    m_pendingTexts.clear();
+    m_pendingRefreshed = 0;
     for (QWidget* old : qAsConst(m_cells)) {
         if (!widgets.contains(old)) {
             old->hide();
@@ -92,6 +148,12 @@ void ViewItem::scheduleRelayout()
 
 void ViewItem::updateSeparators()
 {
+    if (!m_bottomLine) {
+        m_bottomLine = new SeparateLineWidget(this);
+        m_bottomLine->setColor(m_horizontalLineColor);
+        m_bottomLine->installEventFilter(this);
+        m_bottomLine->show();
+    }
     vorlin::syncSeparators(m_separators, m_cells.size(), this, m_verticalLineColor);
     for (SeparateLineWidget* line : qAsConst(m_separators))
         line->installEventFilter(this); // installing twice keeps one filter
@@ -109,16 +171,28 @@ bool ViewItem::isScrolledAway() const
     return !viewport->rect().intersects(QRect(mapTo(viewport, QPoint()), size()));
 }
 
+// Work a row out of sight can skip: deferred updates, and the polish every new widget asks
+// for on the next pass of the event loop while the row waits in a view to be shown (showing
+// it polishes it).
+bool ViewItem::isSkippable(const QEvent* event) const
+{
+    return (event->type() == QEvent::UpdateLater && isScrolledAway())
+           || (event->type() == QEvent::PolishRequest && m_showPending);
+}
+
 bool ViewItem::event(QEvent* event)
 {
-    if (event->type() == QEvent::UpdateLater && isScrolledAway())
+    if (isSkippable(event))
         return true;
+    // A row on its own makes its labels before it is first shown.
+    if (event->type() == QEvent::Polish && !m_heldByView)
+        makePendingLabels();
     return QWidget::event(event);
 }
 
 bool ViewItem::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::UpdateLater && isScrolledAway())
+    if (isSkippable(event))
         return true;
     return QWidget::eventFilter(watched, event);
 }
@@ -134,9 +208,8 @@ void ViewItem::setFontStyle(int pixelSize, const QColor& color, const QString& f
 void ViewItem::updateStyleSheet()
 {
     const QString style = styleSheetText();
-    QFont font = this->font();
-    font.setFamily(m_fontFamily);
-    font.setPixelSize(m_fontSize);
+    m_pendingRefreshed = m_pendingTexts.size();
+    const QFont font = labelFont();
     for (QWidget* cell : qAsConst(m_cells)) {
         if (auto* label = qobject_cast<QLabel*>(cell)) {
             label->setStyleSheet(style);
@@ -149,7 +222,8 @@ void ViewItem::setItemLineColor(const QColor& vertical, const QColor& horizontal
 {
     m_verticalLineColor = vertical;
     m_horizontalLineColor = horizontal;
-    m_bottomLine->setColor(horizontal);
+    if (m_bottomLine)
+        m_bottomLine->setColor(horizontal);
     for (SeparateLineWidget* line : qAsConst(m_separators))
         line->setColor(vertical);
 }
@@ -179,10 +253,13 @@ void ViewItem::paintEvent(QPaintEvent*)
 void ViewItem::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    layoutCells(event->size());
+}
+
+void ViewItem::layoutCells(const QSize& size)
+{
     if (m_cells.isEmpty())
         return;
-    const int w = event->size().width();
-    const int h = event->size().height();
-    vorlin::layoutColumns(m_cells, m_weights, m_separators, w, h, 4, 8);
-    m_bottomLine->setGeometry(0, h - 2, w, 2);
+    vorlin::layoutColumns(m_cells, m_weights, m_separators, size.width(), size.height(), 4, 8);
+    m_bottomLine->setGeometry(0, size.height() - 2, size.width(), 2);
 }

@@ -8,6 +8,7 @@
 #include <QtGui/QPainter>
 #include <QtGui/QResizeEvent>
 #include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyleOption>
 
@@ -25,6 +26,8 @@ ViewWidget::ViewWidget(QWidget* parent)
     m_scrollArea->setStyleSheet(QStringLiteral("border: none; background-color: transparent;"));
     m_scrollArea->setWidget(m_content);
     vorlin::applyScrollBarStyle(m_scrollArea);
+    m_scrollArea->viewport()->installEventFilter(this);
+    connect(m_scrollArea->verticalScrollBar(), &QScrollBar::valueChanged, this, &ViewWidget::bringRowsIntoSight);
 }
 
 void ViewWidget::setHeaderContents(const QStringList& texts, const QList<int>& weights)
@@ -110,12 +113,12 @@ void ViewWidget::insertViewItem(int index, ViewItem* item)
     // A row not yet under the content widget cannot be in the list: no need to search it.
     if (!item || (item->parentWidget() == m_content && m_items.contains(item)))
         return;
+    item->m_heldByView = true;
+    item->m_showPending = true;
     item->setParent(m_content);
     item->setItemLineColor(m_insideVerticalColor, m_insideHorizontalColor);
     index = qBound(0, index, m_items.size());
     m_items.insert(index, item);
-    // Shown by the next layout, in one batch with every row added before it (showNewRows).
-    m_unshown.append(item);
     if (index == m_items.size() - 1) {
         // Appending leaves the rows above as they are: only the new row's fill is decided.
         const bool filled = m_alternate && index % 2 == 1;
@@ -131,7 +134,6 @@ void ViewWidget::removeViewItem(ViewItem* item)
 {
     if (!m_items.removeOne(item))
         return;
-    m_unshown.removeOne(item);
     applyAlternation();
     relayout();
     item->hide();
@@ -145,7 +147,6 @@ void ViewWidget::removeAll()
         item->deleteLater();
     }
     m_items.clear();
-    m_unshown.clear();
     relayout();
 }
 
@@ -158,23 +159,42 @@ void ViewWidget::relayout()
     QCoreApplication::postEvent(this, new QResizeEvent(size(), size()));
 }
 
-// A row shown under a visible parent posts that parent a layout request, and Qt searches all
-// pending events to fold each request into the last: over thousands of new rows that adds up.
-// Under a hidden parent showing only changes state, and showing the parent again shows them
-// all at once. Not while a cell has the keyboard focus, which hiding would take away.
-void ViewWidget::showNewRows()
+// A new row is shown, and its labels made, when it first comes into the scroll area's sight:
+// polishing and styling thousands of rows nobody has scrolled to would cost far more than
+// the rows themselves.
+void ViewWidget::bringIntoSight(ViewItem* item)
 {
-    if (m_unshown.isEmpty())
+    const QRect sight(-m_content->pos(), m_scrollArea->viewport()->size());
+    if (!sight.intersects(item->geometry()))
         return;
-    const bool batch = m_unshown.size() > 1 && m_content->isVisible()
-                       && !m_content->isAncestorOf(QApplication::focusWidget());
-    if (batch)
-        m_content->hide();
-    for (ViewItem* item : qAsConst(m_unshown))
+    item->makePendingLabels();
+    if (item->m_showPending) {
+        item->m_showPending = false;
         item->show();
-    m_unshown.clear();
-    if (batch)
-        m_content->show();
+    }
+}
+
+void ViewWidget::bringRowsIntoSight()
+{
+    // Until the pending layout has placed the rows their geometry means nothing; it brings
+    // them in itself.
+    if (m_items.isEmpty() || m_layoutPending)
+        return;
+    // Rows are laid out top down at a fixed pitch: start near the first one in sight.
+    const int pitch = qMax(1, m_items.first()->height() - 1);
+    for (int i = qBound(0, -m_content->y() / pitch - 1, m_items.size()); i < m_items.size(); ++i) {
+        ViewItem* item = m_items.at(i);
+        if (item->y() > -m_content->y() + m_scrollArea->viewport()->height())
+            break;
+        bringIntoSight(item);
+    }
+}
+
+bool ViewWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_scrollArea->viewport() && event->type() == QEvent::Resize)
+        bringRowsIntoSight();
+    return QWidget::eventFilter(watched, event);
 }
 
 void ViewWidget::paintEvent(QPaintEvent*)
@@ -198,9 +218,9 @@ void ViewWidget::resizeEvent(QResizeEvent* event)
         // Rows overlap by one pixel on purpose: a row's bottom line and the next row's top
         // share a pixel row.
         y = item->geometry().bottom();
+        bringIntoSight(item);
         QResizeEvent relayout(item->size(), item->size());
         QCoreApplication::sendEvent(item, &relayout);
     }
-    showNewRows();
     m_content->resize(rowWidth, y + 1);
 }

@@ -11,7 +11,9 @@ class ViewItem;
 
 // A light-weight table of widgets: a fixed header above a vertically scrolling column of
 // rows, every row repeating the header's weighted column geometry. The view owns the rows
-// it holds. Structural changes lay out on the next pass of the event loop.
+// it holds. Structural changes lay out on the next pass of the event loop. A row is shown,
+// and the labels of its texts made, when it first comes into sight, so that tables of
+// thousands of rows cost little more than the rows on screen.
 class VORLIN_EXPORT ViewWidget : public QWidget
 {
     Q_OBJECT
@@ -49,17 +51,18 @@ public:
     int itemHeight() const { return m_itemHeight; }
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void applyAlternation();
+    void bringIntoSight(ViewItem* item);
+    void bringRowsIntoSight();
     void relayout();
-    void showNewRows();
 
     ViewHeader* m_header = nullptr;
     QList<ViewItem*> m_items;
-    QList<ViewItem*> m_unshown; // added since the last layout
     QScrollArea* m_scrollArea = nullptr;
     QWidget* m_content = nullptr;
     QColor m_outsideBorderColor{204, 204, 204, 255};

@@ -61,6 +61,7 @@ private Q_SLOTS:
     void viewRowBookkeeping();
     void viewSettersClamp();
     void viewKeepsFocusWhileRowsArrive();
+    void viewMakesRowsAsTheyComeIntoSight();
 
     void messagesNewestFirstWithinCap();
     void messageCapLowersOneRowAtATime();
@@ -142,10 +143,10 @@ void TestViews::columnGeometry()
     ViewItem row;
     row.resize(width, 30);
     row.setItemContents(texts, weights);
+    const QList<QWidget*> rowLabels = row.getItemWidgets();
     QCoreApplication::processEvents();
 
     const QList<QLabel*> headerLabels = labelsOf(&header);
-    const QList<QLabel*> rowLabels = labelsOf(&row);
     const QList<SeparateLineWidget*> lines = separatorsOf(&row);
     QCOMPARE(lines.size(), texts.size() + 1);
     int x = 0;
@@ -163,12 +164,25 @@ void TestViews::rowCellsAndStyle()
 {
     ViewItem row;
     row.setItemContents({QStringLiteral("a")}, {1});
+    QVERIFY(labelsOf(&row).isEmpty()); // made when first needed
     const QString expected = QStringLiteral("border-color:rgba(255,255,255,0);background-color:rgba(255,255,255,0);"
                                             "font: 12px \"Microsoft YaHei\";color: rgba(255,255,255,255)");
+    QCOMPARE(row.getItemWidgets().size(), 1);
     QCOMPARE(labelsOf(&row).at(0)->styleSheet(), expected + QLatin1Char(';'));
     row.setBackgroundColor(QColor(10, 20, 30));
-    QCOMPARE(labelsOf(&row).at(0)->styleSheet(), QString(expected).replace(QStringLiteral("background-color:rgba(255,255,255,0)"),
-                                                                       QStringLiteral("background-color:rgba(10,20,30,255)")));
+    const QString refreshed = QString(expected).replace(QStringLiteral("background-color:rgba(255,255,255,0)"),
+                                                        QStringLiteral("background-color:rgba(10,20,30,255)"));
+    QCOMPARE(labelsOf(&row).at(0)->styleSheet(), refreshed);
+
+    // Labels made late carry the style text they would have had if made at once.
+    ViewItem late;
+    late.setItemContents({QStringLiteral("a")}, {1});
+    late.setBackgroundColor(QColor(10, 20, 30));
+    late.setItemContents({QStringLiteral("a"), QStringLiteral("b")}, {1, 1});
+    const QList<QWidget*> lateCells = late.getItemWidgets();
+    QCOMPARE(lateCells.at(0)->styleSheet(), refreshed);
+    QCOMPARE(lateCells.at(1)->styleSheet(), refreshed + QLatin1Char(';'));
+    QCOMPARE(qobject_cast<QLabel*>(lateCells.at(1))->text(), QStringLiteral("b"));
     row.setFontStyle(5, Qt::black, QStringLiteral("Sans"));
     QCOMPARE(labelsOf(&row).at(0)->font().pixelSize(), 9);
     QVERIFY(labelsOf(&row).at(0)->styleSheet().contains(QStringLiteral("font: 9px \"Sans\";color: rgba(0,0,0,255)")));
@@ -281,7 +295,7 @@ void TestViews::viewSettersClamp()
     row->setItemContents({QStringLiteral("a")}, {});
     view.appendViewItem(row);
     view.setItemFont(Qt::yellow, 5, QStringLiteral("Sans"));
-    QCOMPARE(labelsOf(row).at(0)->font().pixelSize(), 9);
+    QCOMPARE(row->getItemWidgets().at(0)->font().pixelSize(), 9);
     view.setInsideLineColor(Qt::blue, Qt::green);
     const QList<SeparateLineWidget*> lines = row->findChildren<SeparateLineWidget*>();
     QCOMPARE(lines.size(), 3);
@@ -324,6 +338,44 @@ void TestViews::viewKeepsFocusWhileRowsArrive()
     for (ViewItem* row : added)
         QVERIFY(row->isVisible());
     QCOMPARE(added.last()->y(), 5 * 29);
+}
+
+// A long table only builds and shows the rows that have been in sight.
+void TestViews::viewMakesRowsAsTheyComeIntoSight()
+{
+    ViewWidget view;
+    view.setHeaderContents({QStringLiteral("name"), QStringLiteral("value")}, {1, 1});
+    view.resize(200, 30 + 170);
+    QList<ViewItem*> rows;
+    for (int i = 0; i < 100; ++i) {
+        auto* row = new ViewItem;
+        row->setItemContents({QStringLiteral("n%1").arg(i), QString::number(i)}, {1, 1});
+        view.appendViewItem(row);
+        rows << row;
+    }
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QCoreApplication::processEvents();
+
+    // Rows 0 to 5 reach into the 170 pixels in sight (29-pixel pitch).
+    QCOMPARE(labelsOf(rows.at(5)).size(), 2);
+    QVERIFY(rows.at(5)->isVisible());
+    QVERIFY(labelsOf(rows.at(6)).isEmpty());
+    QVERIFY(labelsOf(rows.at(60)).isEmpty());
+    QCOMPARE(view.scrollArea()->widget()->height(), 99 * 29 + 30);
+
+    view.scrollArea()->verticalScrollBar()->setValue(60 * 29);
+    const QList<QLabel*> labels = labelsOf(rows.at(60));
+    QCOMPARE(labels.size(), 2);
+    QVERIFY(labels.at(0)->isVisible());
+    QCOMPARE(labels.at(0)->text(), QStringLiteral("n60"));
+    QCOMPARE(labels.at(0)->geometry().topLeft(), QPoint(8, 4));
+    QCOMPARE(separatorsOf(rows.at(60)).size(), 3);
+    QVERIFY(labelsOf(rows.at(30)).isEmpty()); // scrolled past, never in sight
+
+    // The caller asking for the cells gets them at once.
+    QCOMPARE(rows.at(90)->getItemWidgets().size(), 2);
+    QCOMPARE(qobject_cast<QLabel*>(rows.at(90)->getItemWidgets().at(1))->text(), QStringLiteral("90"));
 }
 
 void TestViews::messagesNewestFirstWithinCap()
