@@ -46,6 +46,7 @@ void LxVehicleMeterWidget::setPitch(float pitch)
     if (ladder != m_pitchLadderPath) {
         m_pitchLadderPath = ladder;
         m_pitchLadder->load(ladder);
+        m_faceImages.remove(m_pitchLadder);
     }
     update();
 }
@@ -75,10 +76,10 @@ void LxVehicleMeterWidget::paintEvent(QPaintEvent* event)
 
     // Each face covers the whole widget before its own placement: see the generator
     // under scripts/ for how the faces are drawn to suit these transforms.
-    const auto drawLayer = [&painter](QSvgRenderer* face, const auto& place) {
+    const auto drawLayer = [this, &painter](QSvgRenderer* face, const auto& place) {
         painter.save();
         place();
-        face->render(&painter);
+        drawFace(painter, face);
         painter.restore();
     };
 
@@ -122,4 +123,28 @@ void LxVehicleMeterWidget::paintEvent(QPaintEvent* event)
         painter.scale(0.4, 0.03);
         painter.translate(-w / 2, -0.505 * h);
     });
+}
+
+// Rendering an SVG face under rotation costs several times drawing an image of it: the
+// rasteriser walks every tick and numeral on each frame. A face covers the whole device
+// before its placement, as QSvgRenderer::render(QPainter*) draws it; it is rendered once
+// at the size in device pixels it then covers, so the image is drawn about one to one.
+void LxVehicleMeterWidget::drawFace(QPainter& painter, QSvgRenderer* face)
+{
+    const QRectF target(0, 0, painter.device()->width(), painter.device()->height());
+    const QTransform& toDevice = painter.deviceTransform();
+    const QSize pixels(qRound(target.width() * std::hypot(toDevice.m11(), toDevice.m12())),
+                       qRound(target.height() * std::hypot(toDevice.m21(), toDevice.m22())));
+    if (pixels.isEmpty())
+        return;
+    QImage& image = m_faceImages[face];
+    if (image.size() != pixels) {
+        image = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter facePainter(&image);
+        facePainter.setRenderHint(QPainter::Antialiasing);
+        face->render(&facePainter);
+    }
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(target, image);
 }

@@ -2,13 +2,16 @@
 
 #include "vorlinglobal.h"
 
+#include <QtCore/QHash>
+#include <QtGui/QImage>
 #include <QtWidgets/QFrame>
 
 class QSvgRenderer;
 
 // An attitude and heading instrument: a pitch ladder over sky and ground that rolls and
 // slides behind a fixed aircraft symbol, a roll scale with its index, and a compass rose
-// turning under a fixed heading index. Composed of six SVG faces rendered on every paint.
+// turning under a fixed heading index. Composed of six SVG faces, each rendered once per
+// size at the resolution it is drawn at and then drawn transformed on every paint.
 class VORLIN_EXPORT LxVehicleMeterWidget : public QFrame
 {
     Q_OBJECT
@@ -34,6 +37,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void drawFace(QPainter& painter, QSvgRenderer* face);
+
     float m_roll = 0;
     float m_pitch = 0;
     float m_heading = 0;
@@ -44,4 +49,5 @@ private:
     QSvgRenderer* m_pitchLadder;
     QSvgRenderer* m_aircraft;
     QString m_pitchLadderPath;
+    QHash<const QSvgRenderer*, QImage> m_faceImages;
 };

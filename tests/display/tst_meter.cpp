@@ -101,13 +101,25 @@ private Q_SLOTS:
         LxVehicleMeterWidget widget;
         widget.resize(300, 300);
         widget.setPitch(10);
+        render(&widget); // drawn once with the 30 ladder
         widget.setPitch(pitch);
         QCOMPARE(widget.pitchLadder(), ladder);
+        LxVehicleMeterWidget fresh;
+        fresh.resize(300, 300);
+        fresh.setPitch(pitch);
+        QCOMPARE(render(&widget), render(&fresh));
         // The ladder in use is the one drawn: same pitch, ladder left at the 30 one.
         LxVehicleMeterWidget stale;
         stale.resize(300, 300);
         stale.setAttitude(widget.pitch(), 0);
         QCOMPARE(render(&widget) == render(&stale), ladder.endsWith(QLatin1String("30.svg")));
+
+        // A new size draws the faces anew at that size.
+        widget.resize(200, 200);
+        LxVehicleMeterWidget small;
+        small.resize(200, 200);
+        small.setPitch(pitch);
+        QCOMPARE(render(&widget), render(&small));
     }
 };
 
