@@ -17,6 +17,23 @@ qint64 splitLimitBytes(qint32 sizeMB)
     return qint64(qint32(quint32(sizeMB) << 20));
 }
 
+// Log text is nearly all ASCII, which is its own UTF-8: copied byte by byte it needs no
+// conversion buffer of its own.
+void appendUtf8(QByteArray& out, const QString& text)
+{
+    const int start = out.size();
+    out.resize(start + text.size());
+    char* to = out.data() + start;
+    for (const QChar c : text) {
+        if (c.unicode() >= 0x80) {
+            out.resize(start);
+            out += text.toUtf8();
+            return;
+        }
+        *to++ = char(c.unicode());
+    }
+}
+
 } // namespace
 
 TextStorageImpl::TextStorageImpl(const QString& folder)
@@ -52,8 +69,10 @@ void TextStorageImpl::writeLines(const QStringList& lines)
     // UTF-8 on every platform. Each line goes to the operating system before the next one is
     // taken (the file is unbuffered), so a crash loses at most the line being written.
     QByteArray bytes;
+    bytes.reserve(256); // kept across lines: resizing within it allocates nothing
     for (const QString& line : lines) {
-        bytes = line.toUtf8();
+        bytes.resize(0);
+        appendUtf8(bytes, line);
         bytes += '\n';
         file->write(bytes);
     }

@@ -66,13 +66,21 @@ private Q_SLOTS:
         QVERIFY(logFiles(folder).isEmpty()); // no file before the first line
         for (int i = 0; i < 50; ++i)
             m_storage->appendLine(QStringLiteral("line %1").arg(i));
-        QTRY_COMPARE(readAllLines(folder).size(), 50);
+        // UTF-8 after ASCII lines, a character outside the BMP included, and a long line.
+        const QString latin = QString::fromUtf8("heading 30\u00b0");
+        const QString mixed = QString::fromUtf8("\u822a\u7ebf reached \u2708 \U0001F6E9");
+        const QString longLine = QString(600, QLatin1Char('x'));
+        m_storage->appendLine(latin);
+        m_storage->appendLine(mixed);
+        m_storage->appendLine(longLine);
+        QTRY_COMPARE(readAllLines(folder).size(), 53);
+        QCOMPARE(readAllLines(folder).mid(50), (QStringList{latin, mixed, longLine}));
         const QStringList files = logFiles(folder);
         QCOMPARE(files.size(), 1);
         QVERIFY(QRegularExpression(QStringLiteral("^gcs_client \\d{4}-\\d\\d-\\d\\d \\d\\d_\\d\\d_\\d\\d\\.log$"))
                     .match(files.first()).hasMatch());
         QCOMPARE(readAllLines(folder).first(), QStringLiteral("line 0"));
-        QCOMPARE(readAllLines(folder).last(), QStringLiteral("line 49"));
+        QCOMPARE(readAllLines(folder).at(49), QStringLiteral("line 49"));
     }
 
     void writeLineNowIsOnDiskOnReturn()
