@@ -25,9 +25,22 @@ inline bool near(QRgb pixel, const QColor& expected, int tolerance = 12)
 class LogCapture
 {
 public:
-    LogCapture();
-    ~LogCapture();
+    LogCapture() { m_previous = qInstallMessageHandler(capture); active() = this; }
+    ~LogCapture() { active() = nullptr; qInstallMessageHandler(m_previous); }
     QStringList lines;
+
+private:
+    static LogCapture*& active()
+    {
+        static LogCapture* current = nullptr;
+        return current;
+    }
+    static void capture(QtMsgType, const QMessageLogContext&, const QString& message)
+    {
+        if (active())
+            active()->lines.append(message);
+    }
+    QtMessageHandler m_previous = nullptr;
 };
 
 } // namespace displaytest

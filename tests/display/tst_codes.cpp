@@ -40,32 +40,21 @@ private Q_SLOTS:
         QCOMPARE(classes.size(), 3);
     }
 
-    void codeRefreshesOnTimerSlotAndLeftClick()
+    void codeRefreshesAndPaints()
     {
         VerifyCodeLabel label;
         label.resize(120, 40);
         QSignalSpy changed(&label, &VerifyCodeLabel::sigVerificationCodeChanged);
         QVERIFY(changed.wait(2000)); // the first code comes by itself
-        QString code = label.getVerificationCode();
-        QCOMPARE(code.size(), 4);
-        QCOMPARE(label.getLowVerificationCode(), code.toLower());
-        QCOMPARE(label.getUpVerificationCode(), code.toUpper());
-        for (QChar c : code)
-            QVERIFY(!excluded.contains(c));
+        QCOMPARE(label.getVerificationCode().size(), 4);
 
         const int before = changed.count();
         QTest::mouseClick(&label, Qt::RightButton);
         QCOMPARE(changed.count(), before);
         QTest::mouseClick(&label, Qt::LeftButton);
         QCOMPARE(changed.count(), before + 1);
-    }
 
-    void codePaintsBackgroundAndCharacters()
-    {
-        VerifyCodeLabel label;
-        label.resize(120, 40);
         label.setBackgroundColor(QColor(250, 250, 250));
-        label.slotReflushVerifyCode();
         const QImage image = render(&label);
         int background = 0;
         for (int y = 0; y < image.height(); ++y)

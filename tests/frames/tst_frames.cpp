@@ -43,31 +43,24 @@ struct Frame
     std::function<int(const QPoint&)> hitTest;
 };
 
+template <typename Window>
+Frame frameOf()
+{
+    auto* w = new Window;
+    return {std::unique_ptr<QWidget>(w), [w](const QPoint& p) { return w->hitTest(p); }};
+}
+
 Frame makeFrame(const QString& family)
 {
-    Frame frame;
-    if (family == QLatin1String("main")) {
-        auto* w = new IMainWindow;
-        frame.hitTest = [w](const QPoint& p) { return w->hitTest(p); };
-        frame.widget.reset(w);
-    } else if (family == QLatin1String("moveDialog")) {
-        auto* w = new IMoveDialog;
-        frame.hitTest = [w](const QPoint& p) { return w->hitTest(p); };
-        frame.widget.reset(w);
-    } else if (family == QLatin1String("moveWidget")) {
-        auto* w = new IMoveWidget;
-        frame.hitTest = [w](const QPoint& p) { return w->hitTest(p); };
-        frame.widget.reset(w);
-    } else if (family == QLatin1String("customDialog")) {
-        auto* w = new BaseCustomDialog;
-        frame.hitTest = [w](const QPoint& p) { return w->hitTest(p); };
-        frame.widget.reset(w);
-    } else {
-        auto* w = new BaseCustomWidget;
-        frame.hitTest = [w](const QPoint& p) { return w->hitTest(p); };
-        frame.widget.reset(w);
-    }
-    return frame;
+    if (family == QLatin1String("main"))
+        return frameOf<IMainWindow>();
+    if (family == QLatin1String("moveDialog"))
+        return frameOf<IMoveDialog>();
+    if (family == QLatin1String("moveWidget"))
+        return frameOf<IMoveWidget>();
+    if (family == QLatin1String("customDialog"))
+        return frameOf<BaseCustomDialog>();
+    return frameOf<BaseCustomWidget>();
 }
 
 const QSize frameSize(1200, 800);
@@ -89,9 +82,9 @@ private Q_SLOTS:
         const int midX = w / 2;
         const int midY = h / 2;
 
-        // The main window: 8-pixel bands, the plain right band two pixels narrower.
+        // The band arithmetic is shared; the main window's rows cover it, the other families
+        // what differs. The main window: 8-pixel bands, the plain right band two pixels narrower.
         QTest::newRow("main: column 0") << "main" << "" << QPoint(0, midY) << 0;
-        QTest::newRow("main: row 0") << "main" << "" << QPoint(midX, 0) << 0;
         QTest::newRow("main: left") << "main" << "" << QPoint(7, midY) << 10;
         QTest::newRow("main: left ends at m") << "main" << "" << QPoint(8, midY) << 0;
         QTest::newRow("main: W-7 is no right edge") << "main" << "" << QPoint(w - 7, midY) << 0;
@@ -99,36 +92,25 @@ private Q_SLOTS:
         QTest::newRow("main: W-7 at the top is the corner") << "main" << "" << QPoint(w - 7, 3) << 14;
         QTest::newRow("main: top") << "main" << "" << QPoint(midX, 1) << 12;
         QTest::newRow("main: bottom") << "main" << "" << QPoint(midX, h - 7) << 15;
-        QTest::newRow("main: bottom ends at H-m") << "main" << "" << QPoint(midX, h - 8) << 0;
         QTest::newRow("main: top-left") << "main" << "" << QPoint(1, 1) << 13;
         QTest::newRow("main: bottom-left") << "main" << "" << QPoint(3, h - 3) << 16;
         QTest::newRow("main: bottom-right") << "main" << "" << QPoint(w - 7, h - 1) << 17;
-        QTest::newRow("main: inside") << "main" << "" << QPoint(midX, midY) << 0;
         QTest::newRow("main: maximised") << "main" << "maximized" << QPoint(1, 1) << 0;
 
         // The movable frames: a full-width right band, and the move-and-zoom gate.
-        for (const char* family : {"moveDialog", "moveWidget"}) {
-            const QString f = QLatin1String(family);
-            QTest::addRow("%s: W-7 is the right edge", family) << f << "" << QPoint(w - 7, midY) << 11;
-            QTest::addRow("%s: W-8 is not", family) << f << "" << QPoint(w - 8, midY) << 0;
-            QTest::addRow("%s: top-right", family) << f << "" << QPoint(w - 7, 3) << 14;
-            QTest::addRow("%s: left", family) << f << "" << QPoint(5, midY) << 10;
-            QTest::addRow("%s: bottom-left", family) << f << "" << QPoint(5, h - 5) << 16;
-            QTest::addRow("%s: maximised", family) << f << "maximized" << QPoint(5, midY) << 0;
-            QTest::addRow("%s: full screen", family) << f << "fullScreen" << QPoint(5, midY) << 0;
-            QTest::addRow("%s: move and zoom off", family) << f << "noMoveZoom" << QPoint(5, midY) << 0;
-        }
+        QTest::newRow("moveDialog: W-7 is the right edge") << "moveDialog" << "" << QPoint(w - 7, midY) << 11;
+        QTest::newRow("moveDialog: W-8 is not") << "moveDialog" << "" << QPoint(w - 8, midY) << 0;
+        QTest::newRow("moveDialog: maximised") << "moveDialog" << "maximized" << QPoint(5, midY) << 0;
+        QTest::newRow("moveDialog: full screen") << "moveDialog" << "fullScreen" << QPoint(5, midY) << 0;
+        QTest::newRow("moveWidget: left") << "moveWidget" << "" << QPoint(5, midY) << 10;
+        QTest::newRow("moveWidget: move and zoom off") << "moveWidget" << "noMoveZoom" << QPoint(5, midY) << 0;
 
         // The shells: bands from the border width, n - 1 pixels wide, also when maximised.
-        for (const char* family : {"customDialog", "customWidget"}) {
-            const QString f = QLatin1String(family);
-            QTest::addRow("%s: default border has no band", family) << f << "" << QPoint(w - 1, midY) << 0;
-            QTest::addRow("%s: default border, left", family) << f << "" << QPoint(1, midY) << 0;
-            QTest::addRow("%s: border 6, W-3", family) << f << "border6" << QPoint(w - 3, midY) << 11;
-            QTest::addRow("%s: border 6, W-6", family) << f << "border6" << QPoint(w - 6, midY) << 0;
-            QTest::addRow("%s: border 6, bottom-left", family) << f << "border6" << QPoint(5, h - 5) << 16;
-            QTest::addRow("%s: border 6 maximised", family) << f << "border6 maximized" << QPoint(1, 1) << 13;
-        }
+        QTest::newRow("customDialog: default border has no band") << "customDialog" << "" << QPoint(1, midY) << 0;
+        QTest::newRow("customDialog: border 6, W-3") << "customDialog" << "border6" << QPoint(w - 3, midY) << 11;
+        QTest::newRow("customDialog: border 6, W-6") << "customDialog" << "border6" << QPoint(w - 6, midY) << 0;
+        QTest::newRow("customWidget: default border has no band") << "customWidget" << "" << QPoint(w - 1, midY) << 0;
+        QTest::newRow("customWidget: border 6 maximised") << "customWidget" << "border6 maximized" << QPoint(1, 1) << 13;
     }
 
     void bandTest()
@@ -161,7 +143,7 @@ private Q_SLOTS:
         QCOMPARE(frame.hitTest(pos), expected);
     }
 
-    void movableFrameDragsFromOffTheBand()
+    void dragsStartOnlyOffTheBand()
     {
         IMoveWidget widget;
         widget.setGeometry(100, 100, 400, 300);
@@ -180,18 +162,28 @@ private Q_SLOTS:
         widget.setEnableMoveZoom(false);
         dragTo(&widget, QPoint(200, 100), QPoint(300, 300));
         QCOMPARE(widget.pos(), QPoint(100, 200));
+
+        // A shell's default border of 1 insets its drag area by 2.
+        BaseCustomDialog dialog;
+        dialog.setGeometry(100, 100, 300, 200);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        dragTo(&dialog, QPoint(1, 100), QPoint(400, 400));
+        QCOMPARE(dialog.pos(), QPoint(100, 100));
+        dragTo(&dialog, QPoint(2, 100), QPoint(400, 400));
+        QCOMPARE(dialog.pos(), QPoint(398, 300));
     }
 
-    void snapToTopAndPreview()
+    void snapPreviewAndRestoreFromMaximised()
     {
         IMoveDialog dialog;
         dialog.setGeometry(100, 100, 400, 300);
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        const int normalWidth = dialog.width();
         auto* preview = dialog.findChild<ShadowWidget*>();
         QVERIFY(preview);
         QVERIFY(!preview->isVisible());
-        QVERIFY(preview->testAttribute(Qt::WA_TransparentForMouseEvents));
         QVERIFY(qAbs(preview->windowOpacity() - 0.1) < 0.01); // stored in eight bits
 
         const QPoint local(200, 150);
@@ -212,30 +204,21 @@ private Q_SLOTS:
         dragTo(&dialog, QPoint(200, 150), QPoint(300, 1));
         QVERIFY(dialog.isMaximized());
         QVERIFY(!preview->isVisible());
+
+        // Dragging the maximised window restores it under the cursor: at the same relative
+        // place across the width, and 10 pixels above the top.
+        QTRY_VERIFY(dialog.width() > normalWidth);
+        const int maximisedWidth = dialog.width();
+        const QPoint grab(maximisedWidth / 2, 20);
+        const QPoint global = dialog.mapToGlobal(grab);
+        sendMouse(&dialog, QEvent::MouseButtonPress, grab, global, Qt::LeftButton, Qt::LeftButton);
+        sendMouse(&dialog, QEvent::MouseMove, grab, global, Qt::NoButton, Qt::LeftButton);
+        QVERIFY(!dialog.isMaximized());
+        QCOMPARE(dialog.pos(), global - QPoint(grab.x() * normalWidth / maximisedWidth, grab.y() + 10));
+        sendMouse(&dialog, QEvent::MouseButtonRelease, grab, global, Qt::LeftButton, Qt::NoButton);
     }
 
-    void draggingMaximisedWindowRestoresUnderCursor()
-    {
-        IMoveWidget widget;
-        widget.setMinimumSize(0, 0);
-        widget.resize(600, 400);
-        widget.show();
-        widget.showFullWindow(); // saves 600 x 400 as the normal size
-        QTRY_VERIFY(widget.isMaximized() && widget.width() > 600);
-        const int maximisedWidth = widget.width();
-        QVERIFY(maximisedWidth > 600);
-
-        const QPoint local(maximisedWidth / 2, 20);
-        const QPoint global = widget.mapToGlobal(local);
-        sendMouse(&widget, QEvent::MouseButtonPress, local, global, Qt::LeftButton, Qt::LeftButton);
-        sendMouse(&widget, QEvent::MouseMove, local, global, Qt::NoButton, Qt::LeftButton);
-        QVERIFY(!widget.isMaximized());
-        // The cursor keeps its relative place across the width, and 10 pixels above the top.
-        QCOMPARE(widget.pos(), global - QPoint(local.x() * 600 / maximisedWidth, local.y() + 10));
-        sendMouse(&widget, QEvent::MouseButtonRelease, local, global, Qt::LeftButton, Qt::NoButton);
-    }
-
-    void mainWindowDragsByTitleOrMiddleButton()
+    void mainWindowTitleDragsAndDoubleClicks()
     {
         TestMainWindow window;
         auto* title = new QWidget(&window);
@@ -259,26 +242,9 @@ private Q_SLOTS:
         sendMouse(&window, QEvent::MouseButtonRelease, local, QPoint(410, 420), Qt::MiddleButton, Qt::NoButton);
         QCOMPARE(window.pos(), QPoint(10, 20));
 
-        // A title drag released in the top pixel row snaps; row 2 does not.
-        dragTo(&window, QPoint(300, 20), QPoint(500, 2));
-        QVERIFY(!window.isMaximized());
-        dragTo(&window, QPoint(300, 20), QPoint(500, 1));
-        QVERIFY(window.isMaximized());
-    }
-
-    void doubleClickOnTitleTogglesOnceWithoutSnapping()
-    {
-        TestMainWindow window;
-        auto* title = new QWidget(&window);
-        title->setGeometry(0, 0, 1100, 40);
-        window.SetTitleWidget(title);
-        window.setGeometry(50, 0, 1100, 700);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        QSignalSpy toggles(&window, &IMainWindow::sigShowMaxRestore);
-
         // A double click at the very top: the release would snap, but the double click
         // already toggles, so the window ends maximised once, not restored again.
+        QSignalSpy toggles(&window, &IMainWindow::sigShowMaxRestore);
         const auto doubleClick = [&window] {
             const QPoint local(300, 1);
             const QPoint global(window.mapToGlobal(local).x(), 1);
@@ -289,7 +255,6 @@ private Q_SLOTS:
         QCOMPARE(toggles.count(), 1);
         QVERIFY(!window.isMaximized()); // queued: the double click is handled first
         QTRY_VERIFY(window.isMaximized());
-
         doubleClick();
         QCOMPARE(toggles.count(), 2);
         QTRY_VERIFY(!window.isMaximized());
@@ -298,22 +263,10 @@ private Q_SLOTS:
         const QPoint below(300, 300);
         sendMouse(&window, QEvent::MouseButtonDblClick, below, window.mapToGlobal(below), Qt::LeftButton, Qt::LeftButton);
         QCOMPARE(toggles.count(), 2);
-    }
 
-    void userOperationTime()
-    {
-        IMainWindow window;
-        window.UpdateUserLastOptTime();
-        QCOMPARE(window.getUserLastOptTime(), quint64(0)); // tracking is off by default
-
-        window.SetUserOptTimeEnable(true);
-        const auto before = quint64(QDateTime::currentMSecsSinceEpoch());
-        window.UpdateUserLastOptTime();
-        const quint64 first = window.getUserLastOptTime();
-        QVERIFY(first >= before);
-        // A second action within 500 ms is not written.
-        window.UpdateUserLastOptTime();
-        QCOMPARE(window.getUserLastOptTime(), first);
+        // A title drag released in the top pixel row snaps.
+        dragTo(&window, QPoint(300, 20), QPoint(500, 1));
+        QVERIFY(window.isMaximized());
     }
 
     void borderLinesFollowTheSize()
@@ -352,11 +305,8 @@ private Q_SLOTS:
 
         window.setStatusBar(new QStatusBar);
         window.initStatusBarWidgetUI(true);
-        QCOMPARE(window.statusBar()->height(), 26);
-        auto* text = window.statusBar()->findChild<QLabel*>(QStringLiteral("labelLink"));
         auto* image = window.statusBar()->findChild<QLabel*>(QStringLiteral("labelLinkImg"));
-        QVERIFY(text && image);
-        QCOMPARE(text->text(), QStringLiteral(" LinkStatus: "));
+        QVERIFY(image);
 
         // Not linked: the red image blinks.
         QList<bool> shown;
@@ -378,19 +328,6 @@ private Q_SLOTS:
         }
     }
 
-    void customShellMovesFromInsideItsBorder()
-    {
-        BaseCustomDialog dialog;
-        dialog.setGeometry(100, 100, 300, 200);
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-        // The default border of 1 insets the drag area by 2.
-        dragTo(&dialog, QPoint(1, 100), QPoint(400, 400));
-        QCOMPARE(dialog.pos(), QPoint(100, 100));
-        dragTo(&dialog, QPoint(2, 100), QPoint(400, 400));
-        QCOMPARE(dialog.pos(), QPoint(398, 300));
-    }
-
     void customDialogSwallowsDialogKeys()
     {
         BaseCustomDialog dialog;
@@ -403,20 +340,11 @@ private Q_SLOTS:
         QCOMPARE(finished.count(), 0);
     }
 
-    void customShellTitleAndButtons()
+    void customShellButtons()
     {
         BaseCustomWidget widget;
-        QCOMPARE(widget.objectName(), QStringLiteral("BaseCustomWidget"));
         widget.show();
         QVERIFY(QTest::qWaitForWindowExposed(&widget));
-        auto* logo = widget.findChild<QLabel*>(QStringLiteral("logoLabel"));
-        auto* title = widget.findChild<QLabel*>(QStringLiteral("titleLabel"));
-        widget.SetDialogTitle(QStringLiteral("Settings"), QString());
-        QCOMPARE(title->text(), QStringLiteral("Settings"));
-        QCOMPARE(widget.windowTitle(), QStringLiteral("Settings"));
-        QVERIFY(logo->text().isEmpty());
-        QCOMPARE(logo->maximumWidth(), 0);
-
         QSignalSpy menu(&widget, &BaseCustomWidget::sigShowMenu);
         widget.findChild<QAbstractButton*>(QStringLiteral("pBtnMenu"))->click();
         QCOMPARE(menu.count(), 1);
@@ -454,8 +382,6 @@ private Q_SLOTS:
 
         // A skin that does not load paints nothing, not even the outline.
         dialog.slotUpdateBackgroundSkin(QString(), dir.filePath(QStringLiteral("missing.png")));
-        QCOMPARE(colourAt(container, inside), QColor(Qt::blue));
-        dialog.slotUpdateBackgroundSkin(QString(), QString());
         QCOMPARE(colourAt(container, inside), QColor(Qt::blue));
         QCOMPARE(colourAt(title, QPoint(title->width() / 2, title->height() / 2)), QColor(Qt::blue));
     }
