@@ -9,7 +9,6 @@
 #include <QtGui/QResizeEvent>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QStyleOption>
 
 ViewWidget::ViewWidget(QWidget* parent)
