@@ -132,7 +132,7 @@ int main(int argc, char** argv)
     if (args.size() == 4 && args.at(1) == QLatin1String("--case"))
         return runCase(args.at(2), args.at(3).toInt());
 
-    const int repeats = args.size() > 1 ? qMax(1, args.at(1).toInt()) : 3;
+    const int repeats = args.size() > 1 ? qMax(1, args.at(1).toInt()) : 5;
     std::printf("rows   widget        append ms  layout ms   total ms  peak MiB\n");
     for (int rows : {1000, 10000}) {
         Result best[2];

@@ -17,6 +17,7 @@ public:
     void setColor(const QColor& color);
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -12,14 +12,19 @@ void padWeights(QList<int>& weights, int columns)
         weights.append(10);
 }
 
+void setGridLineColor(SeparateLineWidget* line, const QColor& color)
+{
+    line->setColor(color);
+    line->setVisible(color.alpha() != 0);
+}
+
 void syncSeparators(QList<SeparateLineWidget*>& separators, int columns, QWidget* parent, const QColor& color)
 {
     while (separators.size() > columns + 1)
         delete separators.takeFirst();
     while (separators.size() < columns + 1) {
         auto* line = new SeparateLineWidget(parent);
-        line->setColor(color);
-        line->show();
+        setGridLineColor(line, color);
         separators.append(line);
     }
 }

@@ -26,6 +26,11 @@ void syncCells(QList<Cell*>& cells, int count, Make make)
         cells.append(make());
 }
 
+// Gives a grid line its colour. A fully transparent line draws nothing and stays hidden, so
+// that a row of a table costs no paint for it (a table's inner lines are transparent unless
+// the application colours them).
+void setGridLineColor(SeparateLineWidget* line, const QColor& color);
+
 // Keeps columns + 1 separators: surplus ones from the front are deleted at once, new ones
 // are made in the colour given.
 void syncSeparators(QList<SeparateLineWidget*>& separators, int columns, QWidget* parent, const QColor& color);

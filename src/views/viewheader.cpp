@@ -67,7 +67,7 @@ void ViewHeader::setLineColor(const QColor& vertical, const QColor& horizontal)
     m_topLine->setColor(horizontal);
     m_bottomLine->setColor(horizontal);
     for (SeparateLineWidget* line : qAsConst(m_separators))
-        line->setColor(vertical);
+        vorlin::setGridLineColor(line, vertical);
 }
 
 void ViewHeader::setBackgroundColor(const QColor& color)

@@ -150,9 +150,8 @@ void ViewItem::updateSeparators()
 {
     if (!m_bottomLine) {
         m_bottomLine = new SeparateLineWidget(this);
-        m_bottomLine->setColor(m_horizontalLineColor);
+        vorlin::setGridLineColor(m_bottomLine, m_horizontalLineColor);
         m_bottomLine->installEventFilter(this);
-        m_bottomLine->show();
     }
     vorlin::syncSeparators(m_separators, m_cells.size(), this, m_verticalLineColor);
     for (SeparateLineWidget* line : qAsConst(m_separators))
@@ -223,9 +222,9 @@ void ViewItem::setItemLineColor(const QColor& vertical, const QColor& horizontal
     m_verticalLineColor = vertical;
     m_horizontalLineColor = horizontal;
     if (m_bottomLine)
-        m_bottomLine->setColor(horizontal);
+        vorlin::setGridLineColor(m_bottomLine, horizontal);
     for (SeparateLineWidget* line : qAsConst(m_separators))
-        line->setColor(vertical);
+        vorlin::setGridLineColor(line, vertical);
 }
 
 void ViewItem::setBackgroundColor(const QColor& color)

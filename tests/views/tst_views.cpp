@@ -244,6 +244,14 @@ void TestViews::viewRowsAlternateAndOverlap()
     QCOMPARE(image.pixelColor(5, 30 + 29 + 15), QColor(200, 0, 0));
     QVERIFY(image.pixelColor(5, 30 + 15) != QColor(200, 0, 0));
 
+    // Inner lines are transparent by default and then not shown at all; coloured, they draw.
+    for (SeparateLineWidget* line : rows.at(1)->findChildren<SeparateLineWidget*>())
+        QVERIFY(line->isHidden());
+    view.setInsideLineColor(QColor(0, 200, 0), QColor(0, 0, 200));
+    const QImage lined = view.grab().toImage();
+    QCOMPARE(lined.pixelColor(1, 30 + 29 + 15), QColor(0, 200, 0));
+    QCOMPARE(lined.pixelColor(50, 30 + 29 + 28), QColor(0, 0, 200));
+
     view.removeViewItem(rows.at(0));
     QCOMPARE(filled(), (QList<bool>{false, true, false}));
     view.enableSeparateColor(false);
