@@ -1,6 +1,6 @@
 // Log throughput and producer latency: our message handler feeding the log thread, against
 // spdlog's asynchronous logger writing the same lines to a file, in the same run.
-//   bench_logging [lines-per-thread]
+//   bench_logging [lines-per-thread] [rounds]
 #include "../stats.h"
 #include "mainapplication.h"
 
@@ -14,6 +14,7 @@
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QThread>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <thread>
@@ -99,46 +100,57 @@ void print(const char* name, int threads, const Result& r, const Result& peer)
                 r.linesPerSecond / peer.linesPerSecond, r.p99us / peer.p99us);
 }
 
+// Keeps the run with the higher throughput: the shared machine's speed drifts between runs,
+// and each logger is compared at its best.
+void keepBest(Result& best, const Result& run)
+{
+    if (run.linesPerSecond > best.linesPerSecond)
+        best = run;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     const int linesPerThread = argc > 1 ? std::atoi(argv[1]) : 50000;
+    const int rounds = argc > 2 ? std::max(1, std::atoi(argv[2])) : 3;
     qInstallMessageHandler(quietHandler); // chained after ours: keeps the terminal out of the measurement
     MainApplication app(argc, argv);
     MainApplication::InitMainApplicationGlobal();
     QTemporaryDir dir;
 
-    std::printf("%d lines per producer; throughput until every line is in the file\n", linesPerThread);
+    std::printf("%d lines per producer, best of %d alternating rounds; throughput until every line is in the file\n",
+                linesPerThread, rounds);
     std::printf("%-34s %2s  %10s  %8s  %8s   %6s   %6s\n", "logger", "th", "lines/s", "p50 us", "p99 us", "vs-rate", "vs-p99");
-    int round = 0;
+    int folder = 0;
     for (int threads : {1, 4, 8}) {
-        const QString ours = dir.filePath(QStringLiteral("ours%1").arg(round));
-        app.ChangeLoggerPath(ours);
-        while (app.CurrentLoggerPath() != ours)
-            QThread::msleep(1);
-        LineCounter counter(ours);
-        const qint64 expected = counter.count() + qint64(threads) * linesPerThread;
-        const Result vorlin = run(threads, linesPerThread,
-            [](int t, int i) { qInfo("producer %d line %d: link quality 87 %%, battery 23.9 V", t, i); },
-            [&] { while (counter.count() < expected) QThread::msleep(2); });
+        Result vorlin{}, flushing{}, defaults{};
+        for (int round = 0; round < rounds; ++round) {
+            const QString ours = dir.filePath(QStringLiteral("ours%1").arg(folder++));
+            app.ChangeLoggerPath(ours);
+            while (app.CurrentLoggerPath() != ours)
+                QThread::msleep(1);
+            LineCounter counter(ours);
+            const qint64 expected = counter.count() + qint64(threads) * linesPerThread;
+            keepBest(vorlin, run(threads, linesPerThread,
+                [](int t, int i) { qInfo("producer %d line %d: link quality 87 %%, battery 23.9 V", t, i); },
+                [&] { while (counter.count() < expected) QThread::msleep(2); }));
 
-        Result peers[2];
-        for (int flushEveryLine = 1; flushEveryLine >= 0; --flushEveryLine) {
-            spdlog::init_thread_pool(8192, 1);
-            const std::string file = dir.filePath(QStringLiteral("spdlog%1-%2.log").arg(round).arg(flushEveryLine)).toStdString();
-            auto logger = spdlog::basic_logger_mt<spdlog::async_factory>("bench", file);
-            logger->set_pattern("%Y-%m-%d %H:%M:%S.%e [%l] at %s:%# - %v");
-            if (flushEveryLine)
-                logger->flush_on(spdlog::level::trace);
-            peers[flushEveryLine ? 0 : 1] = run(threads, linesPerThread,
-                [&](int t, int i) { SPDLOG_LOGGER_INFO(logger, "producer {} line {}: link quality 87 %, battery 23.9 V", t, i); },
-                [&] { spdlog::shutdown(); });
+            for (int flushEveryLine = 1; flushEveryLine >= 0; --flushEveryLine) {
+                spdlog::init_thread_pool(8192, 1);
+                const std::string file = dir.filePath(QStringLiteral("spdlog%1-%2.log").arg(folder).arg(flushEveryLine)).toStdString();
+                auto logger = spdlog::basic_logger_mt<spdlog::async_factory>("bench", file);
+                logger->set_pattern("%Y-%m-%d %H:%M:%S.%e [%l] at %s:%# - %v");
+                if (flushEveryLine)
+                    logger->flush_on(spdlog::level::trace);
+                keepBest(flushEveryLine ? flushing : defaults, run(threads, linesPerThread,
+                    [&](int t, int i) { SPDLOG_LOGGER_INFO(logger, "producer {} line {}: link quality 87 %, battery 23.9 V", t, i); },
+                    [&] { spdlog::shutdown(); }));
+            }
         }
-        print("vorlin (flushes every line)", threads, vorlin, peers[0]);
-        print("spdlog async, flush every line", threads, peers[0], peers[0]);
-        print("spdlog async, defaults", threads, peers[1], peers[0]);
-        ++round;
+        print("vorlin (flushes every line)", threads, vorlin, flushing);
+        print("spdlog async, flush every line", threads, flushing, flushing);
+        print("spdlog async, defaults", threads, defaults, flushing);
     }
     MainApplication::FreeMainApplicationGlobal();
     return 0;
