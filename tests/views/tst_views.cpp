@@ -261,6 +261,13 @@ void TestViews::viewRowsAlternateAndOverlap()
     view.enableSeparateColor(true);
     QCOMPARE(filled(), (QList<bool>{false, true, false}));
 
+    // A row added later takes the view's line colours.
+    auto* late = new ViewItem;
+    late->setItemContents({QStringLiteral("late"), QStringLiteral("4")}, {1, 1});
+    view.appendViewItem(late);
+    QCoreApplication::processEvents();
+    QCOMPARE(view.grab().toImage().pixelColor(1, 30 + 3 * 29 + 15), QColor(0, 200, 0));
+
     QVERIFY(!view.scrollArea()->verticalScrollBar()->styleSheet().isEmpty());
     QVERIFY(view.scrollArea()->horizontalScrollBar()->styleSheet().isEmpty());
 }
