@@ -65,6 +65,14 @@ Frame makeFrame(const QString& family)
 
 const QSize frameSize(1200, 800);
 
+// Places a window on the screen and waits until it is shown there.
+bool showAt(QWidget* window, const QRect& geometry)
+{
+    window->setGeometry(geometry);
+    window->show();
+    return QTest::qWaitForWindowExposed(window);
+}
+
 } // namespace
 
 class FramesTest : public QObject
@@ -146,9 +154,7 @@ private Q_SLOTS:
     void dragsStartOnlyOffTheBand()
     {
         IMoveWidget widget;
-        widget.setGeometry(100, 100, 400, 300);
-        widget.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&widget));
+        QVERIFY(showAt(&widget, QRect(100, 100, 400, 300)));
 
         // 5 pixels inside the left edge lies on the band: no drag.
         dragTo(&widget, QPoint(5, 150), QPoint(400, 400));
@@ -165,9 +171,7 @@ private Q_SLOTS:
 
         // A shell's default border of 1 insets its drag area by 2.
         BaseCustomDialog dialog;
-        dialog.setGeometry(100, 100, 300, 200);
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QVERIFY(showAt(&dialog, QRect(100, 100, 300, 200)));
         dragTo(&dialog, QPoint(1, 100), QPoint(400, 400));
         QCOMPARE(dialog.pos(), QPoint(100, 100));
         dragTo(&dialog, QPoint(2, 100), QPoint(400, 400));
@@ -177,9 +181,7 @@ private Q_SLOTS:
     void snapPreviewAndRestoreFromMaximised()
     {
         IMoveDialog dialog;
-        dialog.setGeometry(100, 100, 400, 300);
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QVERIFY(showAt(&dialog, QRect(100, 100, 400, 300)));
         const int normalWidth = dialog.width();
         auto* preview = dialog.findChild<ShadowWidget*>();
         QVERIFY(preview);
@@ -224,9 +226,7 @@ private Q_SLOTS:
         auto* title = new QWidget(&window);
         title->setGeometry(0, 0, 1100, 40);
         window.SetTitleWidget(title);
-        window.setGeometry(50, 60, 1100, 700);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QVERIFY(showAt(&window, QRect(50, 60, 1100, 700)));
 
         // Left button below the title: nothing moves.
         dragTo(&window, QPoint(300, 200), QPoint(500, 500));
