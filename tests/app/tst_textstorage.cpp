@@ -2,6 +2,7 @@
 #include "textstorage.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QSemaphore>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QThread>
 #include <QtTest/QtTest>
@@ -86,8 +87,14 @@ private Q_SLOTS:
         m_storage->changeSplitSize(0);  // ignored
         m_storage->changeSplitSize(-5); // ignored
         const QString filler(1023, QLatin1Char('x'));
+        // The log thread is held until the whole burst is pending, so that it is one batch: a
+        // batch taken in the middle of it would find the file full and begin a new file within
+        // the same second, which overwrites the first.
+        QSemaphore held;
+        QMetaObject::invokeMethod(m_storage, [&held] { held.acquire(); });
         for (int i = 0; i < 1100; ++i) // a little over 1 MB in one burst
             m_storage->appendLine(filler);
+        held.release();
         QTRY_COMPARE(readAllLines(folder).size(), 1100);
         QCOMPARE(logFiles(folder).size(), 1);
         // A file is named by the second it was begun in; wait for the next second.
