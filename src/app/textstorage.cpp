@@ -7,6 +7,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QMetaMethod>
 #include <QtCore/QMutexLocker>
+#include <QtCore/QThread>
 
 namespace {
 
@@ -33,6 +34,12 @@ void appendUtf8(QByteArray& out, const QString& text)
         *to++ = char(c.unicode());
     }
 }
+
+// Below this many lines a batch means the log thread keeps up with the producers.
+constexpr int kSmallBatch = 256;
+constexpr unsigned long kGatherMicroseconds = 200;
+// Larger batches are freed by the log thread, so that a burst's memory is not kept.
+constexpr int kMaxHandedBack = 1024;
 
 } // namespace
 
@@ -78,6 +85,15 @@ void TextStorageImpl::writeLines(const QStringList& lines)
     }
 }
 
+void TextStorageImpl::handBack(QStringList& lines)
+{
+    if (lines.size() > kMaxHandedBack)
+        return;
+    QMutexLocker locker(&lock);
+    if (written.isEmpty())
+        written.swap(lines);
+}
+
 QStringList TextStorageImpl::takePending()
 {
     QMutexLocker locker(&lock);
@@ -101,6 +117,12 @@ void TextStorageImpl::saveBatches()
         }
         writeLines(batch);
         fileLocker.unlock();
+        const bool keepingUp = batch.size() < kSmallBatch;
+        handBack(batch);
+        // A writer that keeps up would take the lines one or two at a time, and every take
+        // makes the next producer post a new request. A short pause lets a burst gather.
+        if (keepingUp)
+            QThread::usleep(kGatherMicroseconds);
         batch = takePending();
     }
 }
@@ -127,12 +149,20 @@ void TextStorage::appendLine(const QString& line)
 {
     if (libVorlin::isImmediateQuit())
         return;
-    QMutexLocker locker(&d->lock);
-    d->pending.append(line);
-    // Only the first line of a burst asks the log thread to write. The slot is looked up by
-    // name once; the lookup would otherwise cost more than the rest of the call.
+    bool firstOfBurst;
+    QString spent; // freed here, after the lock is released
+    {
+        QMutexLocker locker(&d->lock);
+        d->pending.append(line);
+        firstOfBurst = d->pending.size() == 1;
+        if (!d->written.isEmpty())
+            spent = d->written.takeLast();
+    }
+    // Only the first line of a burst asks the log thread to write. The request is posted
+    // outside the lock, which producers and the log thread would otherwise queue on. The slot
+    // is looked up by name once; the lookup would otherwise cost more than the rest of the call.
     static const QMetaMethod saveText = staticMetaObject.method(staticMetaObject.indexOfSlot("slotDoSaveText()"));
-    if (d->pending.size() == 1)
+    if (firstOfBurst)
         saveText.invoke(this, Qt::AutoConnection);
 }
 
