@@ -102,7 +102,7 @@ private Q_SLOTS:
         QCOMPARE(loadedSpy.count(), 1);
         QCOMPARE(loadedSpy.at(0).at(0).value<IModuleObject*>(), beta);
         QCOMPARE(beta->ModuleVersion(), QStringLiteral("1.2.0")); // "1.2" in the metadata
-        QCOMPARE(beta->FixedVersion(), QStringLiteral("1.2.0"));
+        QCOMPARE(beta->FixedVersion(), QStringLiteral("1.2.0-b1"));
         QCOMPARE(beta->ModuleDescription(), QStringLiteral("Beta test module"));
         QCOMPARE(beta->isMainShowWindow(), false);
         QCOMPARE(m_loader.GetModuleObject(QStringLiteral("BetaModule")), beta);

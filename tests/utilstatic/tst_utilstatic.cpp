@@ -199,7 +199,7 @@ private Q_SLOTS:
         QVERIFY(!libUtilStatic::IsContentValid(QStringLiteral("abc")));
         QVERIFY(!libUtilStatic::IsContentValid(QStringLiteral("ABC-_ ")));
         QVERIFY(libUtilStatic::IsContentValid(QStringLiteral("Ab")));
-        QVERIFY(libUtilStatic::IsContentValid(QStringLiteral("7|")));
+        QVERIFY(libUtilStatic::IsContentValid(QStringLiteral("0|")));
 
         QVERIFY(!libUtilStatic::IsLeapYear(QStringLiteral("1900")));
         QVERIFY(libUtilStatic::IsLeapYear(QStringLiteral("2000")));
