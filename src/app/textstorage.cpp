@@ -38,7 +38,7 @@ void appendUtf8(QByteArray& out, const QString& text)
 // Below this many lines a batch means the log thread keeps up with the producers.
 constexpr int kSmallBatch = 256;
 constexpr unsigned long kGatherMicroseconds = 200;
-// Larger batches are freed by the log thread, so that a burst's memory is not kept.
+// Lines beyond this many are freed by the log thread, so that a burst's memory is not kept.
 constexpr int kMaxHandedBack = 1024;
 
 } // namespace
@@ -87,11 +87,26 @@ void TextStorageImpl::writeLines(const QStringList& lines)
 
 void TextStorageImpl::handBack(QStringList& lines)
 {
-    if (lines.size() > kMaxHandedBack)
-        return;
+    // Only this thread adds to the written lines, so they can be merged outside the lock.
+    QStringList merged;
+    {
+        QMutexLocker locker(&lock);
+        merged.swap(written);
+    }
+    if (merged.size() + lines.size() > kMaxHandedBack) {
+        // The lines stay with the caller, which frees them.
+    } else if (merged.isEmpty()) {
+        merged.swap(lines);
+    } else {
+        // Moved over by swapping, so that the log thread touches no reference count of a line.
+        merged.reserve(merged.size() + lines.size());
+        for (QString& line : lines) {
+            merged.append(QString());
+            merged.last().swap(line);
+        }
+    }
     QMutexLocker locker(&lock);
-    if (written.isEmpty())
-        written.swap(lines);
+    written.swap(merged);
 }
 
 QStringList TextStorageImpl::takePending()
