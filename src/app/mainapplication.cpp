@@ -7,6 +7,7 @@
 #include "itoolobject.h"
 #include "iworkermgtobject.h"
 #include "libvorlin.h"
+#include "logline_p.h"
 #include "textstorage.h"
 
 #include <QtCore/QDateTime>
@@ -23,7 +24,6 @@
 
 #include <atomic>
 #include <cstdlib>
-#include <iterator>
 
 namespace {
 
@@ -35,99 +35,11 @@ QThread* s_logThread = nullptr;
 // Read by the message handler in any thread; cleared before the storage goes away.
 std::atomic<TextStorage*> s_logStorage{nullptr};
 
-const QStringList& messageTypeNames()
-{
-    static const QStringList names = {
-        QStringLiteral("Debug"), QStringLiteral("Warning"), QStringLiteral("Critical"),
-        QStringLiteral("Fatal"), QStringLiteral("Info"),    QStringLiteral("System"),
-    };
-    return names;
-}
-
-// The last two components of the source path, joined by a backslash on every platform.
-QString sourcePathParts(const char* file)
-{
-    QString path = QString::fromLocal8Bit(file);
-    path.replace(QLatin1Char('/'), QLatin1Char('\\'));
-    const int last = path.lastIndexOf(QLatin1Char('\\'));
-    if (last <= 0)
-        return path;
-    const int previous = path.lastIndexOf(QLatin1Char('\\'), last - 1);
-    // More than two parts: keep the folder and the file.
-    return previous < 0 ? path : path.mid(previous + 1);
-}
-
-QString shortSourcePath(const char* file)
-{
-    // A thread mostly logs from the same file: remember the last name per thread.
-    thread_local QByteArray cachedFile;
-    thread_local QString cachedPath;
-    if (file && !cachedFile.isNull() && qstrcmp(file, cachedFile.constData()) == 0)
-        return cachedPath;
-    cachedFile = QByteArray(file ? file : "");
-    cachedPath = sourcePathParts(file);
-    return cachedPath;
-}
-
-// Appends "yyyy-MM-dd hh:mm:ss.zzz" in local time. Formatting a date is slow, so each thread
-// keeps the text of the current second and appends only the milliseconds.
-void appendTimeStamp(QString& out)
-{
-    thread_local qint64 cachedSecond = -1;
-    thread_local QString cachedText;
-    const qint64 now = QDateTime::currentMSecsSinceEpoch();
-    const qint64 second = now / 1000;
-    if (second != cachedSecond) {
-        cachedSecond = second;
-        cachedText = QDateTime::fromMSecsSinceEpoch(second * 1000).toString(QStringLiteral("yyyy-MM-dd hh:mm:ss."));
-    }
-    const int millis = int(now % 1000);
-    const QChar digits[3] = {QLatin1Char(char('0' + millis / 100)), QLatin1Char(char('0' + millis / 10 % 10)),
-                             QLatin1Char(char('0' + millis % 10))};
-    out += cachedText;
-    out.append(digits, 3);
-}
-
-void appendNumber(QString& out, int number)
-{
-    QChar digits[12];
-    QChar* first = std::end(digits);
-    unsigned magnitude = number < 0 ? 0u - unsigned(number) : unsigned(number);
-    do {
-        *--first = QLatin1Char(char('0' + magnitude % 10));
-        magnitude /= 10;
-    } while (magnitude != 0);
-    if (number < 0)
-        *--first = QLatin1Char('-');
-    out.append(first, int(std::end(digits) - first));
-}
-
-// "%1 [%2] at %3:%4 - %5": time, level, source, line, text. Built in one allocation: on a
-// busy log the allocator is a large part of every line's cost.
-QString formatLogLine(QtMsgType type, const QMessageLogContext& context, const QString& text)
-{
-    const QStringList& names = messageTypeNames();
-    const QString& typeName = (type >= 0 && type < names.size()) ? names.at(type) : names.first();
-    const QString source = shortSourcePath(context.file);
-    QString result;
-    result.reserve(48 + typeName.size() + source.size() + text.size());
-    appendTimeStamp(result);
-    result += QLatin1String(" [");
-    result += typeName;
-    result += QLatin1String("] at ");
-    result += source;
-    result += QLatin1Char(':');
-    appendNumber(result, context.line);
-    result += QLatin1String(" - ");
-    result += text;
-    return result;
-}
-
 void messageHandler(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     if (s_immediateQuit.load())
         return;
-    const QString line = formatLogLine(type, context, text);
+    const QString line = vorlin::formatLogLine(type, context, text);
     TextStorage* storage = s_logStorage.load();
     if (type == QtFatalMsg) {
         if (storage)
@@ -252,7 +164,7 @@ void MainApplication::LoggerRecordFunc(int type, const char* file, int line, con
     if (s_immediateQuit.load())
         return;
     const QMessageLogContext context(file, line, nullptr, nullptr);
-    const QString logLine = formatLogLine(QtMsgType(type), context, QString::fromUtf8(text));
+    const QString logLine = vorlin::formatLogLine(QtMsgType(type), context, QString::fromUtf8(text));
     if (TextStorage* storage = s_logStorage.load())
         storage->appendLine(logLine);
 }

@@ -2,6 +2,7 @@
 #include "libvorlin.h"
 #include "mainapplication.h"
 
+#include <QtCore/QDateTime>
 #include <QtCore/QDir>
 #include <QtCore/QMutex>
 #include <QtCore/QSettings>
@@ -129,10 +130,19 @@ private Q_SLOTS:
 
     void formatsLogLines()
     {
+        const QDateTime before = QDateTime::currentDateTime();
         const int line = __LINE__ + 1;
         qWarning("abc");
-        QTRY_VERIFY(logHasLineEndingWith(m_dir.path(), QStringLiteral(" [Warning] at app\\tst_application.cpp:%1 - abc").arg(line)));
+        const QDateTime after = QDateTime::currentDateTime();
+        const QString ending = QStringLiteral(" [Warning] at app\\tst_application.cpp:%1 - abc").arg(line);
+        QTRY_VERIFY(logHasLineEndingWith(m_dir.path(), ending));
         QVERIFY(captured(QStringLiteral("abc")));
+        for (const QString& logLine : logLines(m_dir.path())) {
+            if (!logLine.endsWith(ending))
+                continue;
+            const QDateTime stamp = QDateTime::fromString(logLine.left(23), QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz"));
+            QVERIFY2(before <= stamp && stamp <= after, qPrintable(logLine)); // local time, to the millisecond
+        }
         const QRegularExpression format(QStringLiteral(
             "^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3} \\[(Debug|Warning|Critical|Info)\\] at [^ ]*:\\d+ - "));
         for (const QString& logLine : logLines(m_dir.path()))
