@@ -82,7 +82,7 @@ public:
         connect(m_sound, &QPushButton::clicked, this, [] { application()->startPlaySound(2); });
         connect(m_speak, &QPushButton::clicked, this, [] { application()->startSpeak(QStringLiteral("飞机已起飞")); });
         connect(&m_poll, &QTimer::timeout, this, &LogPage::readNewLines);
-        m_poll.start(500);
+        m_poll.start(200);
         application()->ChangeLanguageSource(MainApplication::enLanguageEN);
         retranslate();
         QTimer::singleShot(0, this, [] { qInfo() << "LogPage: the gallery is running"; });
