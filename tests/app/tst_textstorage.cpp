@@ -7,6 +7,8 @@
 #include <QtCore/QThread>
 #include <QtTest/QtTest>
 
+#include <atomic>
+
 namespace {
 
 QStringList logFiles(const QString& folder)
@@ -32,6 +34,21 @@ QStringList readAllLines(const QString& folder)
         lines += readLines(QDir(folder).filePath(name));
     return lines;
 }
+
+// Counts the queued calls delivered to the object it filters.
+class QueuedCallCounter : public QObject
+{
+public:
+    std::atomic<int> calls{0};
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::MetaCall)
+            ++calls;
+        return false;
+    }
+};
 
 } // namespace
 
@@ -78,6 +95,21 @@ private Q_SLOTS:
         QCOMPARE(files.size(), 1);
         QVERIFY(QRegularExpression(QStringLiteral("^gcs_client \\d{4}-\\d\\d-\\d\\d \\d\\d_\\d\\d_\\d\\d\\.log$"))
                     .match(files.first()).hasMatch());
+    }
+
+    void aBurstCostsOneRequestToTheLogThread()
+    {
+        auto* counter = new QueuedCallCounter;
+        counter->moveToThread(m_thread); // a filter lives in the thread of what it watches
+        connect(m_thread, &QThread::finished, counter, &QObject::deleteLater);
+        m_storage->installEventFilter(counter);
+        QSemaphore held;
+        QMetaObject::invokeMethod(m_storage, [&held] { held.acquire(); }); // one queued call
+        for (int i = 0; i < 500; ++i)
+            m_storage->appendLine(QStringLiteral("burst line %1").arg(i));
+        held.release();
+        QTRY_COMPARE(readAllLines(m_storage->currentPath()).size(), 500);
+        QCOMPARE(counter->calls.load(), 2); // the hold, and one request for the whole burst
     }
 
     void splitsWhenTheFileReachesTheSplitSize()
