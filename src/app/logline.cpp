@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <iterator>
 
 namespace vorlin {
 
@@ -100,19 +99,20 @@ public:
     {
         unsigned magnitude = number < 0 ? 0u - unsigned(number) : unsigned(number);
         do {
-            *--m_first = QLatin1Char(char('0' + magnitude % 10));
+            m_digits[--m_first] = QLatin1Char(char('0' + magnitude % 10));
             magnitude /= 10;
         } while (magnitude != 0);
         if (number < 0)
-            *--m_first = QLatin1Char('-');
+            m_digits[--m_first] = QLatin1Char('-');
     }
 
-    const QChar* data() const { return m_first; }
-    int size() const { return int(std::end(m_digits) - m_first); }
+    const QChar* data() const { return m_digits + m_first; }
+    int size() const { return Capacity - m_first; }
 
 private:
-    QChar m_digits[12];
-    QChar* m_first = std::end(m_digits);
+    static constexpr int Capacity = 12;
+    QChar m_digits[Capacity];
+    int m_first = Capacity;
 };
 
 } // namespace
