@@ -4,7 +4,6 @@
 #include <QtCore/QStringList>
 
 #include <algorithm>
-#include <cstring>
 
 namespace vorlin {
 
@@ -72,19 +71,18 @@ public:
     {
     }
 
+    void put(const QChar* text, int size)
+    {
+        m_out = std::copy(text, text + size, m_out);
+    }
     void put(const QString& text)
     {
-        std::memcpy(static_cast<void*>(m_out), text.constData(), size_t(text.size()) * sizeof(QChar));
-        m_out += text.size();
+        put(text.constData(), text.size());
     }
     void put(QLatin1String text)
     {
         for (const char c : text)
             *m_out++ = QLatin1Char(c);
-    }
-    void put(const QChar* text, int size)
-    {
-        m_out = std::copy(text, text + size, m_out);
     }
 
 private:
